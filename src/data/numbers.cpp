@@ -1,0 +1,56 @@
+#include "data/numbers.h"
+
+#include "data/run_time_error.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace data {
+
+double leading_number(std::string_view text) {
+    const auto start = text.find_first_not_of(" \t");
+    if (start == std::string_view::npos)
+        return 0;
+    text.remove_prefix(start);
+
+    const bool negative = text.front() == '-';
+    if (negative || text.front() == '+')
+        text.remove_prefix(1);
+    // The conversion below also takes words such as "inf" and a second sign.
+    if (text.empty() || text.find_first_of("0123456789.") != 0)
+        return 0;
+
+    double number = 0;
+    const auto [end, error] =
+        std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
+    if (error == std::errc::result_out_of_range) {
+        const auto whole_part = text.substr(0, text.find_first_not_of("0123456789"));
+        const bool large = whole_part.find_first_not_of('0') != std::string_view::npos;
+        number = large ? std::numeric_limits<double>::infinity() : 0;
+    }
+    return negative ? -number : number;
+}
+
+double round_half_even(double number) {
+    return std::nearbyint(number);
+}
+
+std::int16_t to_int16(double number, std::string_view place) {
+    const double rounded = round_half_even(number);
+    if (!(rounded >= std::numeric_limits<std::int16_t>::min() &&
+          rounded <= std::numeric_limits<std::int16_t>::max()))
+        throw RunTimeError(ErrorNumber::overflow, std::string(place) + ": " + to_text(number) +
+                                                      " is not between -32768 and 32767");
+    return static_cast<std::int16_t>(rounded);
+}
+
+std::string to_text(double number) {
+    std::array<char, 32> buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
+                                      number == 0 ? 0.0 : number, std::chars_format::general, 15);
+    return {buffer.data(), result.ptr};
+}
+
+} // namespace data

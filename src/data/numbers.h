@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace data {
+
+/// Returns the longest decimal number that the text begins with: leading blanks and tabs are
+/// skipped, "." separates the decimals, reading stops at the first other character. 0 without one.
+double leading_number(std::string_view text);
+
+/// Returns the number rounded to a whole one, halves to the even neighbour.
+double round_half_even(double number);
+
+/// Returns the number rounded half to even; throws overflow outside -32768 to 32767, with `place`.
+std::int16_t to_int16(double number, std::string_view place);
+
+/// Returns the number in decimal with at most 15 significant digits and no idle zeros ("130.25").
+std::string to_text(double number);
+
+} // namespace data

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "data/province_table.h"
+
+#include <string>
+#include <string_view>
+
+namespace data {
+
+/// What a reading found, for those who ask why nothing came of it.
+struct ReadReport {
+    int lines = 0;     // lines of the file, the header and the fixed rows among them
+    int provinces = 0; // lines that filled a row of the table
+    bool has_carriage_return = false;
+};
+
+/// Reads the province file's bytes into the table; rows that the file lacks stay as they were.
+/// Throws invalid procedure call for a province line with too few fields, with line, province and
+/// column in its place; what was read before it stays in the table.
+ReadReport read_provinces(std::string_view bytes, ProvinceTable& table);
+
+/// Returns the whole table as a province file of 2021 lines.
+std::string write_provinces(const ProvinceTable& table);
+
+} // namespace data

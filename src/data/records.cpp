@@ -1,0 +1,67 @@
+#include "data/records.h"
+
+#include "data/run_time_error.h"
+
+#include <algorithm>
+
+namespace data {
+
+void RecordReader::drop(std::size_t count) {
+    const auto dropped = rest_.substr(0, count);
+    const auto line_feeds = std::count(dropped.begin(), dropped.end(), '\n');
+    line_ += static_cast<int>(line_feeds);
+    rest_.remove_prefix(dropped.size());
+}
+
+void RecordReader::drop_blanks() {
+    drop(std::min(rest_.find_first_not_of(" \t"), rest_.size()));
+}
+
+void RecordReader::drop_separator() {
+    if (rest_.starts_with("\r\n"))
+        drop(2);
+    else
+        drop(1);
+}
+
+bool RecordReader::at_end() {
+    drop(std::min(rest_.find_first_not_of(" \t\r\n"), rest_.size()));
+    return rest_.empty();
+}
+
+std::string RecordReader::next() {
+    drop_blanks();
+    field_line_ = line_;
+    const std::string line = "line " + std::to_string(line_);
+    if (rest_.empty())
+        throw RunTimeError(ErrorNumber::input_past_end,
+                           line + ": the file ends inside a record, a further field was expected");
+
+    std::string field;
+    if (rest_.front() == '"') {
+        const auto end = rest_.find_first_of("\"\r\n", 1);
+        if (end == std::string_view::npos || rest_[end] != '"')
+            throw RunTimeError(ErrorNumber::invalid_procedure_call,
+                               line + ": a text begins with a quote, a second quote was expected "
+                                      "before the end of the line");
+        field = rest_.substr(1, end - 1);
+        drop(end + 1);
+        drop(std::min(rest_.find_first_of(",\r\n"), rest_.size()));
+    } else {
+        const auto end = std::min(rest_.find_first_of(",\r\n"), rest_.size());
+        field = rest_.substr(0, end);
+        field.erase(field.find_last_not_of(" \t") + 1);
+        drop(end);
+    }
+    drop_separator();
+    return field;
+}
+
+std::string quoted(std::string_view text) {
+    std::string result = "\"";
+    std::copy_if(text.begin(), text.end(), std::back_inserter(result),
+                 [](char c) { return c != '"' && c != '\r' && c != '\n'; });
+    return result += '"';
+}
+
+} // namespace data

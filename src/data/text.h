@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// Texts are Windows-1252 bytes; these comparisons fold letter case in that page.
+namespace data {
+
+/// Returns the lower-case form of the character, itself when it is no capital letter.
+char fold(char character);
+
+/// Returns whether both texts are the same but for letter case.
+bool equal_ignoring_case(std::string_view left, std::string_view right);
+
+/// Returns whether the text begins with the prefix, letter case aside.
+bool starts_with_ignoring_case(std::string_view text, std::string_view prefix);
+
+/// Returns the position of the first occurrence at or after `from`, letter case aside; npos if
+/// none.
+std::size_t find_ignoring_case(std::string_view text, std::string_view wanted,
+                               std::size_t from = 0);
+
+/// Returns the text with its first comma turned into a decimal point.
+std::string with_decimal_point(std::string_view text);
+
+} // namespace data

@@ -1,0 +1,66 @@
+#include "editor/coded_choices.h"
+
+#include "data/numbers.h"
+#include "data/text.h"
+
+#include <array>
+
+namespace editor {
+
+namespace {
+
+constexpr std::string_view gold = "gold";
+constexpr std::string_view coastal = "coastal";
+constexpr std::string_view inland = "inland";
+
+struct Treaty {
+    std::string_view code;
+    std::string_view portugal;
+    std::string_view spain;
+};
+
+constexpr std::array<Treaty, 3> treaties = {{
+    {"0", "0", "0"},
+    {"PORTUGAL", "1", "0"},
+    {"ESPAGNE", "0", "1"},
+}};
+
+} // namespace
+
+void choose(data::ProvinceTable& table, const Selection& selection, const Field& field,
+            std::string_view code) {
+    if (field.shown == Shown::treaty) {
+        for (const auto& treaty : treaties) {
+            if (!data::equal_ignoring_case(treaty.code, code))
+                continue;
+            changement(table, selection, treaty.portugal, treaty_portugal);
+            changement(table, selection, treaty.spain, treaty_spain);
+        }
+        return;
+    }
+    changement(table, selection, code, field.number);
+    if (field.number == goods)
+        changement(table, selection, data::equal_ignoring_case(code, gold) ? "1" : "0", mine_flag);
+}
+
+std::string_view value_after_press(const Field& field, bool checked) {
+    if (field.shown == Shown::coast)
+        return checked ? inland : coastal;
+    return checked ? "0" : "1";
+}
+
+bool is_checked(const Field& field, std::string_view value) {
+    return field.shown == Shown::coast ? data::equal_ignoring_case(value, coastal)
+                                       : data::leading_number(value) == 1;
+}
+
+std::string_view treaty_code(std::string_view spain, std::string_view portugal) {
+    const bool of_spain = data::leading_number(spain) == 1;
+    const bool of_portugal = data::leading_number(portugal) == 1;
+    // A province that both claim shows no treaty.
+    if (of_spain == of_portugal)
+        return treaties[0].code;
+    return of_portugal ? treaties[1].code : treaties[2].code;
+}
+
+} // namespace editor

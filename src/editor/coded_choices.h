@@ -1,0 +1,27 @@
+#pragma once
+
+#include "data/province_table.h"
+#include "editor/fields.h"
+#include "editor/selection.h"
+
+#include <string>
+#include <string_view>
+
+/// What choosing an option or pressing a box writes.
+namespace editor {
+
+/// Writes the option's code into the field of every selected province; the goods also set the mine
+/// flag, and the treaty writes both of its fields or, for a code that is none of its own, none.
+void choose(data::ProvinceTable& table, const Selection& selection, const Field& field,
+            std::string_view code);
+
+/// Returns what pressing the field's box writes while it is checked or not.
+std::string_view value_after_press(const Field& field, bool checked);
+
+/// Returns whether the field's box is checked for the value.
+bool is_checked(const Field& field, std::string_view value);
+
+/// Returns the code of the treaty option that both merged values switch on.
+std::string_view treaty_code(std::string_view spain, std::string_view portugal);
+
+} // namespace editor

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "data/columns.h"
+
+#include <array>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+/// What the panel shows of each of the 58 fields, and what entering a value means.
+namespace editor {
+
+/// How a merged value is put into its control.
+enum class Shown {
+    nowhere,
+    text,     // text field
+    slider,   // text field with a slider beside it
+    group,    // the option whose code is the value
+    treaty,   // both treaty fields share the group `tot`
+    list,     // the item whose code is the value
+    box,      // checked for the number 1
+    coast,    // checked for "coastal"
+    position, // read-only label
+    variant,  // label that copies its variant to all selected provinces when clicked
+};
+
+struct Field {
+    data::FieldNumber number;
+    Shown shown;
+    std::string_view control;     // object name in UTF-8, with its index where it has one
+    std::string_view list_prefix; // prefix of the language file's value list, if any
+};
+
+/// The fields by field number, field 1 at index 0.
+extern const std::array<Field, data::table_columns> fields;
+
+/// Returns the field's row of the table above.
+const Field& field(data::FieldNumber number);
+
+inline constexpr data::FieldNumber mine_flag{17}; // follows the goods, has no control
+inline constexpr data::FieldNumber goods{19};
+inline constexpr data::FieldNumber treaty_spain{14};
+inline constexpr data::FieldNumber treaty_portugal{15};
+
+/// A text field with a slider: what may be entered, and how the slider stands for it.
+struct NumericField {
+    data::FieldNumber number;
+    std::string_view slider; // object name in UTF-8
+    double highest;          // 0 is the lowest value
+    int slider_factor;       // slider position = value x factor
+    int message;             // message text for a value outside the range
+};
+
+inline constexpr std::array<NumericField, 2> numeric_fields = {{
+    {{24}, "férocité_s", 5, 4, 2},
+    {{25}, "efficacité_s", 2, 10, 1},
+}};
+
+/// Returns the text as it is stored (decimal point for comma); nothing when its number is outside
+/// the field's range.
+std::optional<std::string> checked_entry(const NumericField& numeric, std::string_view text);
+
+/// Returns where the slider stands for a shown value: the largest position not above it.
+int slider_position_shown(const NumericField& numeric, std::string_view text);
+
+/// Returns where the slider is asked to stand for an entered value: the nearest position, a half to
+/// the even one.
+int slider_position_entered(const NumericField& numeric, std::string_view text);
+
+/// Returns the text that a slider position stands for.
+std::string slider_text(const NumericField& numeric, int position);
+
+} // namespace editor

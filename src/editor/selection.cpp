@@ -1,0 +1,92 @@
+#include "editor/selection.h"
+
+#include "data/numbers.h"
+#include "data/run_time_error.h"
+
+#include <algorithm>
+
+namespace editor {
+
+namespace {
+
+[[noreturn]] void throw_no_such_province(double identifier) {
+    throw data::RunTimeError(data::ErrorNumber::subscript_out_of_range,
+                             "selection: province " + data::to_text(identifier) +
+                                 ", an identifier from 1 to " +
+                                 std::to_string(data::last_province) + " was expected");
+}
+
+} // namespace
+
+Selection::Selection() : flags_(data::provinces_rows, 0) {}
+
+bool Selection::contains(int province) const {
+    if (province < 0 || province > data::last_province)
+        throw_no_such_province(province);
+    return flags_[static_cast<std::size_t>(province)] != 0;
+}
+
+void Selection::mark(double first, double last) {
+    for (double identifier = first; identifier <= last; ++identifier) {
+        if (identifier > data::last_province)
+            throw_no_such_province(identifier);
+        if (identifier != 0)
+            flags_[static_cast<std::size_t>(identifier)] = 1;
+    }
+}
+
+void Selection::list_provinces() {
+    provinces_.clear();
+    for (int province = 0; province <= data::last_province; ++province) {
+        if (flags_[static_cast<std::size_t>(province)] != 0)
+            provinces_.push_back(province);
+    }
+}
+
+void Selection::apply(std::string_view text) {
+    std::fill(flags_.begin(), flags_.end(), 0);
+    try {
+        for (bool more = true; more;) {
+            const auto end = text.find(';');
+            const auto item = text.substr(0, end);
+            const auto dash = item.find('-');
+            const double last =
+                data::leading_number(dash == std::string_view::npos ? item : item.substr(dash + 1));
+            double first = last;
+            if (dash == 0) // no first identifier: "-5" is 5
+                first = std::max(last, 0.0);
+            else if (dash != std::string_view::npos)
+                first = data::leading_number(item.substr(0, dash));
+            mark(data::round_half_even(first), data::round_half_even(last));
+            more = end != std::string_view::npos;
+            text.remove_prefix(more ? end + 1 : text.size());
+        }
+    } catch (const data::RunTimeError&) {
+        list_provinces();
+        throw;
+    }
+    list_provinces();
+}
+
+bool is_well_formed(std::string_view selection_text) {
+    bool after_digit = false;
+    return std::all_of(selection_text.begin(), selection_text.end(), [&](char character) {
+        const bool digit = character >= '0' && character <= '9';
+        const bool accepted = digit || (after_digit && (character == '-' || character == ';'));
+        after_digit = digit;
+        return accepted;
+    });
+}
+
+std::string with_province(std::string_view selection_text, int province) {
+    const std::string identifier = std::to_string(province);
+    return selection_text.empty() ? identifier : std::string(selection_text) + ";" + identifier;
+}
+
+void changement(data::ProvinceTable& table, const Selection& selection, std::string_view value,
+                data::FieldNumber field) {
+    for (const int province : selection.provinces())
+        table.write(province, data::table_column(field), value);
+}
+
+} // namespace editor

@@ -1,0 +1,116 @@
+#include "shell/language.h"
+
+#include "data/records.h"
+#include "data/run_time_error.h"
+#include "data/text.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace shell {
+
+namespace {
+
+using data::equal_ignoring_case;
+
+std::size_t list_index(std::string_view prefix) {
+    const auto* found =
+        std::find_if(value_lists.begin(), value_lists.end(),
+                     [prefix](const ListInfo& list) { return list.prefix == prefix; });
+    if (found == value_lists.end())
+        throw data::RunTimeError(data::ErrorNumber::subscript_out_of_range,
+                                 "value list " + std::string(prefix));
+    return static_cast<std::size_t>(found - value_lists.begin());
+}
+
+void store(std::vector<Entry>& entries, const ListInfo& list, Entry entry, int line) {
+    if (list.keeps_last)
+        entries.clear();
+    if (entries.size() == list.capacity)
+        throw data::RunTimeError(data::ErrorNumber::subscript_out_of_range,
+                                 "line " + std::to_string(line) + ", key " +
+                                     std::string(list.prefix) + entry.code + ": at most " +
+                                     std::to_string(list.capacity) + " records with the prefix " +
+                                     std::string(list.prefix) + " were expected");
+    entries.push_back(std::move(entry));
+}
+
+/// Fills text n of the array from the entry coded `before` n `after`.
+template <std::size_t count>
+void number_texts(std::array<std::string, count>& texts, std::span<const Entry> entries,
+                  const std::string& before, const std::string& after) {
+    for (std::size_t n = 1; n <= count; ++n) {
+        const std::string key = before + std::to_string(n) + after;
+        const auto found = std::find_if(entries.begin(), entries.end(), [&](const Entry& entry) {
+            return equal_ignoring_case(entry.code, key);
+        });
+        if (found != entries.end())
+            texts[n - 1] = found->text;
+    }
+}
+
+} // namespace
+
+LanguageTexts::LanguageTexts(std::string_view bytes) {
+    data::RecordReader reader(bytes);
+    while (!reader.at_end()) {
+        const std::string key = reader.next();
+        const int line = reader.line();
+        std::string text = reader.next();
+        const auto* list =
+            std::find_if(value_lists.begin(), value_lists.end(), [&](const ListInfo& candidate) {
+                return data::starts_with_ignoring_case(key, candidate.prefix);
+            });
+        if (list != value_lists.end())
+            store(lists_[static_cast<std::size_t>(list - value_lists.begin())], *list,
+                  {key.substr(list->prefix.size()), std::move(text)}, line);
+    }
+    number_texts(status_texts_, this->list("MESS_"), "bar(", ")");
+    number_texts(message_texts_, this->list("MESSAGE_"), "mess", "");
+}
+
+std::span<const Entry> LanguageTexts::list(std::string_view prefix) const {
+    return lists_[list_index(prefix)];
+}
+
+std::optional<std::string> LanguageTexts::caption(std::string_view key) const {
+    for (const auto& entry : list("MENU_")) {
+        if (equal_ignoring_case(entry.code, key))
+            return entry.text;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> LanguageTexts::exact_caption(std::string_view key) const {
+    std::optional<std::string> caption;
+    for (const auto& entry : list("MENU_")) {
+        if (entry.code == key)
+            caption = entry.text;
+    }
+    return caption;
+}
+
+const std::string& LanguageTexts::message(int number) const {
+    return message_texts_.at(static_cast<std::size_t>(number - 1));
+}
+
+const std::string& LanguageTexts::status(int number) const {
+    return status_texts_.at(static_cast<std::size_t>(number - 1));
+}
+
+std::string code_of_text(std::span<const Entry> list, std::size_t capacity, std::string_view text) {
+    for (const auto& entry : list) {
+        if (equal_ignoring_case(entry.text, text))
+            return entry.code;
+    }
+    if (text.empty() && list.size() < capacity)
+        return {};
+    throw data::RunTimeError(data::ErrorNumber::subscript_out_of_range,
+                             "\"" + std::string(text) + "\" is none of the list's texts");
+}
+
+std::size_t capacity(std::string_view prefix) {
+    return value_lists[list_index(prefix)].capacity;
+}
+
+} // namespace shell

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "data/run_time_error.h"
+#include "shell/session.h"
+
+#include <string>
+
+class QWidget;
+
+/// The program's message boxes. In a run that nobody attends they throw what they would have said.
+namespace shell {
+
+/// Shows the text with an exclamation mark and an OK button.
+void show_message(const Session& session, QWidget* owner, const std::string& text);
+
+enum class DefaultAnswer { yes, no };
+
+/// Returns whether the question was answered with Yes.
+bool ask(const Session& session, QWidget* owner, const std::string& text, DefaultAnswer preset);
+
+/// Shows an error that ends one operation only; the program goes on.
+void show_error(const Session& session, QWidget* owner, const data::RunTimeError& error);
+
+} // namespace shell

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+/// Paths are stored in the drive form "c:\folder\file"; here they become the system's own and back.
+namespace shell {
+
+/// Returns the system's path for a stored or native one. Where the exact name is absent, a name
+/// that differs in letter case only is found, folder by folder.
+QString native_path(std::string_view path);
+
+/// Returns the stored form of the path, made absolute. A stored path is returned as it is.
+std::string stored_path(const QString& path);
+
+/// Returns the stored path of a name in a stored folder.
+std::string in_folder(std::string_view folder, std::string_view name);
+
+/// Returns the folder part of a stored path with its last separator; empty without a separator.
+std::string folder_of(std::string_view path);
+
+} // namespace shell
