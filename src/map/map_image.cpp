@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace map {
 
@@ -80,9 +81,11 @@ MapReader::MapReader(const MapImage& image) : image_(image) {
         return;
     }
     try {
-        new_layout_ = read_bitmap_layout(head, static_cast<std::uint64_t>(file_.size()));
+        // Half written perhaps: the rows that are there are worth showing.
+        constexpr auto any_size = std::numeric_limits<std::uint64_t>::max();
+        new_layout_ = read_bitmap_layout(head, any_size);
     } catch (const data::RunTimeError&) {
-        return; // half written perhaps; grey until it is whole
+        return;
     }
     if (new_layout_ && size_of(*new_layout_) == image.size_)
         layout_ = &*new_layout_;
