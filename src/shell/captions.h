@@ -17,4 +17,12 @@ inline QString frame_caption(const LanguageTexts& language, std::string_view key
     return caption ? to_qstring(*caption) : from_source(design);
 }
 
+/// Returns a dialog's caption for the key, spelled exactly so; the design-time caption where the
+/// language file has none.
+inline QString dialog_caption(const LanguageTexts& language, std::string_view key,
+                              std::string_view design) {
+    const auto caption = language.exact_caption(key);
+    return caption ? to_qstring(*caption) : from_source(design);
+}
+
 } // namespace shell
