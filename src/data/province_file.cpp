@@ -45,7 +45,7 @@ std::string_view take_line(std::string_view& bytes) {
 
 /// Fills one row from the line's fields behind its identifier.
 void read_fields(std::string_view fields, int province, int line_number, ProvinceTable& table) {
-    for (TableColumn column{0}; column < first_unread; ++column.index) {
+    for (TableColumn column{0}; column.index < first_unread.index; ++column.index) {
         const auto end = fields.find(separator);
         if (end == std::string_view::npos)
             throw_too_few_fields(line_number, province, column);
@@ -89,7 +89,7 @@ std::string write_provinces(const ProvinceTable& table) {
     for (int province = 1; province <= last_province; ++province) {
         const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), province).ptr;
         bytes.append(digits.data(), end);
-        for (TableColumn column{0}; column < first_unwritten; ++column.index) {
+        for (TableColumn column{0}; column.index < first_unwritten.index; ++column.index) {
             bytes += separator;
             bytes += table.cell(province, column);
         }

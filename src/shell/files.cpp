@@ -9,6 +9,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
+
 namespace shell {
 
 namespace {
@@ -43,7 +45,7 @@ ErrorNumber number_of(const QFileDevice& file) {
 
 } // namespace
 
-std::string read_file(std::string_view path) {
+std::string read_file(std::string_view path, std::size_t at_most) {
     const QString native = native_path(path);
     check_place(native);
     if (!QFileInfo::exists(native))
@@ -51,7 +53,7 @@ std::string read_file(std::string_view path) {
     QFile file(native);
     if (!file.open(QIODevice::ReadOnly))
         fail(number_of(file), native, file.errorString());
-    std::string bytes(static_cast<std::size_t>(file.size()), '\0');
+    std::string bytes(std::min(static_cast<std::size_t>(file.size()), at_most), '\0');
     const qint64 read = file.read(bytes.data(), static_cast<qint64>(bytes.size()));
     if (read < 0)
         fail(number_of(file), native, file.errorString());
@@ -63,9 +65,15 @@ void replace_file(std::string_view path, std::string_view bytes) {
     const QString native = native_path(path);
     check_place(native);
     QSaveFile file(native);
-    if (!file.open(QIODevice::WriteOnly))
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         fail(number_of(file), native, file.errorString());
-    file.write(bytes.data(), static_cast<qint64>(bytes.size()));
+    while (!bytes.empty()) {
+        // A disk that fills up takes a part without an error; the next part then fails.
+        const qint64 written = file.write(bytes.data(), static_cast<qint64>(bytes.size()));
+        if (written <= 0)
+            fail(number_of(file), native, file.errorString());
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
     if (!file.commit())
         fail(number_of(file), native, file.errorString());
 }

@@ -1,0 +1,250 @@
+#include "map/bitmap_file.h"
+
+#include "data/run_time_error.h"
+
+#include <algorithm>
+#include <bit>
+#include <string>
+
+namespace map {
+
+namespace {
+
+constexpr Pixel opaque = 0xFF000000;
+
+constexpr std::size_t file_header_size = 14;
+constexpr std::size_t core_header_size = 12; // the oldest header, with 16-bit sizes
+constexpr std::size_t info_header_size = 40;
+constexpr std::size_t masks_begin = file_header_size + info_header_size;
+
+enum class Compression : std::uint32_t { none = 0, bit_fields = 3 };
+
+[[noreturn]] void fail(const std::string& reason) {
+    throw data::RunTimeError(data::ErrorNumber::path_file_access, reason);
+}
+
+std::uint32_t byte_at(std::span<const char> bytes, std::size_t position) {
+    return static_cast<unsigned char>(bytes[position]);
+}
+
+std::uint32_t read_16(std::span<const char> bytes, std::size_t position) {
+    return byte_at(bytes, position) | byte_at(bytes, position + 1) << 8;
+}
+
+std::uint32_t read_24(std::span<const char> bytes, std::size_t position) {
+    return read_16(bytes, position) | byte_at(bytes, position + 2) << 16;
+}
+
+std::uint32_t read_32(std::span<const char> bytes, std::size_t position) {
+    return read_24(bytes, position) | byte_at(bytes, position + 3) << 24;
+}
+
+std::int32_t read_signed_32(std::span<const char> bytes, std::size_t position) {
+    return static_cast<std::int32_t>(read_32(bytes, position));
+}
+
+/// The header's values, whichever of its forms the file has.
+struct Header {
+    std::size_t size = 0;
+    std::int64_t width = 0;
+    std::int64_t height = 0; // negative: the top row comes first
+    unsigned bits_per_pixel = 0;
+    std::uint32_t compression = 0;
+    std::uint32_t colours = 0; // 0: as many as the bits per pixel allow
+    std::size_t palette_begin = 0;
+    std::size_t palette_step = 0; // bytes of an entry
+};
+
+Header read_header(std::span<const char> head) {
+    constexpr auto smallest = file_header_size + core_header_size;
+    if (head.size() < smallest)
+        fail("the file ends inside the bitmap header");
+    Header header;
+    header.size = read_32(head, file_header_size);
+    if (header.size == core_header_size) {
+        header.width = read_16(head, 18);
+        header.height = read_16(head, 20);
+        header.bits_per_pixel = read_16(head, 24);
+        header.palette_begin = smallest;
+        header.palette_step = 3;
+        return header;
+    }
+    if (header.size < info_header_size)
+        fail("a bitmap header of " + std::to_string(header.size) +
+             " bytes, 12 or at least 40 were expected");
+    if (head.size() < masks_begin)
+        fail("the file ends inside the bitmap header");
+    header.width = read_signed_32(head, 18);
+    header.height = read_signed_32(head, 22);
+    header.bits_per_pixel = read_16(head, 28);
+    header.compression = read_32(head, 30);
+    header.colours = read_32(head, 46);
+    header.palette_begin = file_header_size + header.size;
+    header.palette_step = 4;
+    return header;
+}
+
+void check_size(const Header& header) {
+    constexpr std::int64_t largest = 0x7FFFFFFF;
+    if (header.width < 1 || header.height == 0 || header.height < -largest)
+        fail("a bitmap of " + std::to_string(header.width) + " x " + std::to_string(header.height) +
+             " pixels, at least 1 x 1 was expected");
+}
+
+void check_has_pixels(const BitmapLayout& layout, std::uint64_t file_size) {
+    const auto last_row = static_cast<std::uint64_t>(layout.height) - 1;
+    const auto bytes_of_last = // its padding may be missing
+        (static_cast<std::uint64_t>(layout.width) * layout.bits_per_pixel + 7) / 8;
+    const auto needed = layout.pixels_begin + last_row * layout.bytes_per_row + bytes_of_last;
+    if (needed > file_size)
+        fail("a bitmap of " + std::to_string(layout.width) + " x " + std::to_string(layout.height) +
+             " pixels with " + std::to_string(layout.bits_per_pixel) + " bits each needs " +
+             std::to_string(needed) + " bytes, the file has " + std::to_string(file_size));
+}
+
+std::vector<Pixel> read_palette(std::span<const char> head, const Header& header) {
+    const auto possible = std::size_t{1} << header.bits_per_pixel;
+    const auto given =
+        header.colours == 0 ? possible : std::min<std::size_t>(header.colours, possible);
+    std::vector<Pixel> palette(possible, opaque);
+    for (std::size_t i = 0; i < given; ++i) {
+        const auto position = header.palette_begin + i * header.palette_step;
+        if (position + 3 > head.size())
+            break;
+        palette[i] = opaque | read_24(head, position);
+    }
+    return palette;
+}
+
+constexpr std::array<Channel, 3> channels_of_16_bits = {{{10, 5}, {5, 5}, {0, 5}}};
+constexpr std::array<Channel, 3> channels_of_32_bits = {{{16, 8}, {8, 8}, {0, 8}}};
+
+/// Returns the channels that the header's masks name; nothing for a mask with holes in it.
+std::optional<std::array<Channel, 3>> read_channels(std::span<const char> head) {
+    std::array<Channel, 3> channels;
+    std::size_t position = masks_begin;
+    for (Channel& channel : channels) {
+        if (position + 4 > head.size())
+            fail("the file ends inside the bitmap header");
+        const std::uint32_t mask = read_32(head, position);
+        if (mask == 0)
+            return {};
+        channel.shift = static_cast<unsigned>(std::countr_zero(mask));
+        channel.bits = static_cast<unsigned>(std::countr_one(mask >> channel.shift));
+        if (std::popcount(mask) != static_cast<int>(channel.bits))
+            return {};
+        position += 4;
+    }
+    return channels;
+}
+
+/// Returns the channel's value within the pixel, stretched or cut to eight bits.
+std::uint32_t channel_value(std::uint32_t pixel, Channel channel) {
+    std::uint32_t value = pixel >> channel.shift;
+    if (channel.bits >= 8)
+        return value >> (channel.bits - 8) & 0xFF;
+    value = (value << (8 - channel.bits)) & 0xFF;
+    for (unsigned filled = channel.bits; filled < 8; filled *= 2)
+        value |= value >> filled;
+    return value;
+}
+
+Pixel from_channels(std::uint32_t pixel, const std::array<Channel, 3>& channels) {
+    return opaque | channel_value(pixel, channels[0]) << 16 |
+           channel_value(pixel, channels[1]) << 8 | channel_value(pixel, channels[2]);
+}
+
+/// Fills `pixels` with what `pixel_at` returns for the positions 0, step, 2 step, and so on.
+template <class PixelAt>
+void fill(std::span<Pixel> pixels, std::size_t first, std::size_t step, PixelAt pixel_at) {
+    for (std::size_t position = first; Pixel & pixel : pixels) {
+        pixel = pixel_at(position);
+        position += step;
+    }
+}
+
+} // namespace
+
+std::optional<BitmapLayout> read_bitmap_layout(std::string_view head_bytes,
+                                               std::uint64_t file_size) {
+    if (!head_bytes.starts_with("BM"))
+        return {};
+    const std::span<const char> head(head_bytes);
+    const Header header = read_header(head);
+    check_size(header);
+
+    const auto compression = static_cast<Compression>(header.compression);
+    if (compression != Compression::none && compression != Compression::bit_fields)
+        return {};
+
+    BitmapLayout layout;
+    layout.width = static_cast<int>(header.width);
+    layout.height = static_cast<int>(header.height < 0 ? -header.height : header.height);
+    layout.bits_per_pixel = header.bits_per_pixel;
+    layout.top_down = header.height < 0;
+    layout.pixels_begin = read_32(head, 10);
+    layout.bytes_per_row =
+        (static_cast<std::uint64_t>(layout.width) * layout.bits_per_pixel + 31) / 32 * 4;
+
+    switch (layout.bits_per_pixel) {
+    case 1:
+    case 4:
+    case 8:
+        layout.palette = read_palette(head, header);
+        break;
+    case 16:
+        layout.channels = channels_of_16_bits;
+        break;
+    case 24:
+        break;
+    case 32:
+        layout.channels = channels_of_32_bits;
+        break;
+    default:
+        fail("a bitmap with " + std::to_string(layout.bits_per_pixel) +
+             " bits per pixel, 1, 4, 8, 16, 24 or 32 were expected");
+    }
+    if (compression == Compression::bit_fields) {
+        if (layout.bits_per_pixel != 16 && layout.bits_per_pixel != 32)
+            return {};
+        const auto channels = read_channels(head);
+        if (!channels)
+            return {};
+        layout.channels = *channels;
+    }
+    check_has_pixels(layout, file_size);
+    return layout;
+}
+
+FilePart part_of_row(const BitmapLayout& layout, int y, int first_x, int last_x) {
+    const auto row = static_cast<std::uint64_t>(layout.top_down ? y : layout.height - 1 - y);
+    const auto first_byte = static_cast<std::uint64_t>(first_x) * layout.bits_per_pixel / 8;
+    const auto end = (static_cast<std::uint64_t>(last_x) + 1) * layout.bits_per_pixel;
+    return {layout.pixels_begin + row * layout.bytes_per_row + first_byte,
+            static_cast<std::size_t>((end + 7) / 8 - first_byte)};
+}
+
+void decode_pixels(const BitmapLayout& layout, std::span<const char> bytes, int first_x, int step,
+                   std::span<Pixel> pixels) {
+    const auto stride = static_cast<std::size_t>(step);
+    if (layout.bits_per_pixel <= 8) {
+        const unsigned bits = layout.bits_per_pixel;
+        const std::size_t per_byte = 8 / bits;
+        const std::uint32_t mask = (1U << bits) - 1;
+        const std::span<const Pixel> palette(layout.palette);
+        fill(pixels, static_cast<std::size_t>(first_x) % per_byte, stride, [=](std::size_t at) {
+            const auto shift = (per_byte - 1 - at % per_byte) * bits;
+            return palette[byte_at(bytes, at / per_byte) >> shift & mask];
+        });
+    } else if (layout.bits_per_pixel == 24) {
+        fill(pixels, 0, 3 * stride, [=](std::size_t at) { return opaque | read_24(bytes, at); });
+    } else if (layout.bits_per_pixel == 16) {
+        fill(pixels, 0, 2 * stride,
+             [&](std::size_t at) { return from_channels(read_16(bytes, at), layout.channels); });
+    } else {
+        fill(pixels, 0, 4 * stride,
+             [&](std::size_t at) { return from_channels(read_32(bytes, at), layout.channels); });
+    }
+}
+
+} // namespace map

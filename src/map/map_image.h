@@ -1,0 +1,71 @@
+#pragma once
+
+#include "map/bitmap_file.h"
+#include "map/identification.h"
+
+#include <QFile>
+#include <QImage>
+#include <QPoint>
+#include <QRect>
+#include <QSize>
+#include <QString>
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace map {
+
+/// A map's image. An uncompressed bitmap stays in its file, and only what is looked at is read; any
+/// other image is decoded into memory.
+class MapImage {
+  public:
+    /// Opens the image at the stored path. Throws file not found, path not found, permission denied
+    /// or path/file access error with the file and what was expected.
+    explicit MapImage(std::string_view path);
+
+    /// Returns the size in pixels.
+    QSize size() const { return size_; }
+
+    /// Returns the colour of the point (pixels); nothing outside the image and where the file
+    /// cannot be read.
+    std::optional<Colour> colour_at(QPoint point) const;
+
+  private:
+    friend class MapReader;
+
+    QString file_name_; // the system's path
+    std::string head_;
+    BitmapLayout layout_;
+    QImage decoded_; // null for an image that stays in its file
+    QSize size_;
+};
+
+/// One look at an image. Its file is open only for so long, and its header is read each time: other
+/// programs may shorten, replace or delete the file between two looks.
+class MapReader {
+  public:
+    explicit MapReader(const MapImage& image);
+
+    /// Fills `pixels` with row y's pixels first_x (0 or above), first_x + step, and so on;
+    /// no_pixel outside the image. Returns false, and fills all with no_pixel, for a row that is
+    /// outside or cannot be read.
+    bool read_row(int y, int first_x, int step, std::span<Pixel> pixels);
+
+    /// Fills the upper left corner of `target`, a 32-bit RGB image of the rectangle's size or
+    /// larger, with the rectangle inside the image; grey where it cannot be read.
+    void read(const QRect& rectangle, QImage& target);
+
+  private:
+    bool read_pixels(int y, int first_x, int step, std::span<Pixel> pixels);
+
+    const MapImage& image_;
+    QFile file_;
+    std::optional<BitmapLayout> new_layout_; // of a file that was changed since it was opened
+    const BitmapLayout* layout_ = nullptr;   // null when the file fits no longer
+    std::vector<char> bytes_;
+};
+
+} // namespace map

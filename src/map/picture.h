@@ -1,0 +1,40 @@
+#pragma once
+
+#include "map/map_image.h"
+
+#include <QImage>
+#include <QWidget>
+
+#include <functional>
+
+namespace map {
+
+/// A surface that shows an image, one pixel of it in one unit of every coordinate.
+class Picture : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// Draws what lies over the image within the rectangle (pixels).
+    using DrawAbove = std::function<void(QPainter&, const QRect&)>;
+
+    /// The image must outlive the surface.
+    Picture(const MapImage& image, DrawAbove draw_above, QWidget* parent);
+
+  signals:
+    void pressed(const QMouseEvent& event);
+    void moved(const QMouseEvent& event);
+    void released(const QMouseEvent& event);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override { emit pressed(*event); }
+    void mouseMoveEvent(QMouseEvent* event) override { emit moved(*event); }
+    void mouseReleaseEvent(QMouseEvent* event) override { emit released(*event); }
+
+  private:
+    const MapImage& image_;
+    DrawAbove draw_above_;
+    QImage view_; // kept from one painting to the next: its memory is as large as the view
+};
+
+} // namespace map

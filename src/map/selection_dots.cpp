@@ -1,0 +1,44 @@
+#include "map/selection_dots.h"
+
+#include "data/province_table.h"
+
+namespace map {
+
+namespace {
+
+constexpr int points_in(int length) {
+    return length <= 0 ? 0 : (length - 1) / dot_spacing + 1;
+}
+
+} // namespace
+
+SelectionDots::SelectionDots(int width, int height, const editor::Selection& selection,
+                             const ReadGridRow& read_row)
+    : columns_(points_in(width)), rows_(points_in(height)) {
+    dots_.reserve(static_cast<std::size_t>(columns_) * static_cast<std::size_t>(rows_));
+    std::vector<Pixel> pixels(static_cast<std::size_t>(columns_));
+    Pixel last = no_pixel;
+    bool selected = false;
+    for (int row = 0; row < rows_; ++row) {
+        read_row(row * dot_spacing, pixels);
+        for (int column = 0; column < columns_; ++column) {
+            const Pixel pixel = pixels[static_cast<std::size_t>(column)];
+            if (pixel != last) { // most neighbours lie in one province
+                last = pixel;
+                const int province = pixel == no_pixel ? 0 : province_of(pixel);
+                selected = province <= data::last_province && selection.contains(province);
+                if (province > data::last_province && !foreign_point_)
+                    foreign_point_ = {column * dot_spacing, row * dot_spacing, pixel & 0xFFFFFF,
+                                      province};
+            }
+            dots_.push_back(selected);
+        }
+    }
+}
+
+bool SelectionDots::has_dot(int column, int row) const {
+    return dots_[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+                 static_cast<std::size_t>(column)] != 0;
+}
+
+} // namespace map
