@@ -7,6 +7,8 @@
 #include "shell/stored_path.h"
 #include "shell/termination.h"
 
+#include <QScreen>
+
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -73,6 +75,15 @@ void save_picture(QWidget& frame, const QString& file) {
         throw std::runtime_error("The picture could not be written to " + file.toStdString());
 }
 
+/// A frame that its screen could not hold together with its title bar takes the whole screen.
+void show_window(QWidget& frame) {
+    const QSize room = frame.screen()->availableSize();
+    if (room.width() > frame.width() && room.height() > frame.height())
+        frame.show();
+    else
+        frame.showMaximized();
+}
+
 int run(shell::Application& application, shell::Session& session, const shell::CommandLine& line) {
     session.program_folder =
         line.folder.value_or(shell::stored_path(QApplication::applicationDirPath()));
@@ -85,7 +96,7 @@ int run(shell::Application& application, shell::Session& session, const shell::C
         save_picture(frame, *line.screenshot);
         return EXIT_SUCCESS;
     }
-    frame.show();
+    show_window(frame);
     obey(line, session, frame);
     application.event_loop_begins();
     return QApplication::exec();

@@ -19,7 +19,6 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QScreen>
 #include <QStatusBar>
 
 #include <array>
@@ -40,9 +39,6 @@ MDIForm1::MDIForm1(Session& session) : session_(session) {
     setObjectName(QStringLiteral("MDIForm1"));
     setWindowTitle(QApplication::applicationDisplayName());
     resize(first_size);
-    const QSize room = screen()->availableSize();
-    if (room.width() <= first_size.width() || room.height() <= first_size.height())
-        setWindowState(Qt::WindowMaximized);
     start_up();
 }
 

@@ -156,11 +156,13 @@ TEST_F(SampleWorld, ConfigurationLoadsSpritesAndTerrainArt) {
         return path.substr(path.starts_with("c:/") && fs::path::preferred_separator == '/' ? 2 : 0);
     };
     std::string graphics_folder;
-    const auto configuration = shell::read_configuration(
-        sample::read_file(folder() / "config.txt"), [&](const gfx::GraphicsFile& file) {
-            sprites.read_descriptor(sample::read_file(native(file.path)), file.kind, file.set_name,
-                                    (folder() / "gfx").string());
-        });
+    shell::Configuration configuration;
+    shell::read_configuration(sample::read_file(folder() / "config.txt"), configuration,
+                              [&](const gfx::GraphicsFile& file) {
+                                  sprites.read_descriptor(sample::read_file(native(file.path)),
+                                                          file.kind, file.set_name,
+                                                          (folder() / "gfx").string());
+                              });
     for (const auto& kind : gfx::sprite_kinds) {
         ASSERT_EQ(sprites.of(kind.kind).count, kind.set_limit);
         for (int row = 0; row < kind.set_limit; ++row) {
