@@ -1,5 +1,6 @@
 #include "shell/application.h"
 
+#include "shell/icon.h"
 #include "shell/messages.h"
 #include "shell/qt_text.h"
 #include "shell/recovery.h"
@@ -30,6 +31,7 @@ Application::Application(int& argc, char** argv, Session& session, std::function
     : QApplication(argc, argv), session_(session), end_(std::move(end)) {
     setApplicationName(QStringLiteral("Province Editor"));
     setApplicationDisplayName(applicationName());
+    setWindowIcon(program_icon());
     setApplicationVersion(QStringLiteral(PROVINCE_EDITOR_VERSION));
 }
 
