@@ -40,8 +40,8 @@ bool has_display() {
 
 /// Tells on standard error how much of the province file was understood, and why nothing was.
 void report(const std::string& path, const data::ReadReport& read) {
-    std::cerr << shell::to_qstring(shell::shown_path(path)).toStdString() << ": " << read.provinces
-              << " provinces read";
+    std::cerr << shell::to_qstring(shell::shown_path(path)).toStdString()
+              << ": provinces read: " << read.provinces;
     if (read.provinces == 0 && read.lines == 0)
         std::cerr << ": the file is empty";
     else if (read.provinces == 0 && !read.has_carriage_return)
