@@ -31,6 +31,7 @@ constexpr data::FileColumn climate_column{8};
 constexpr data::FileColumn terrain_column{14};
 
 constexpr QColor pointed_colour(255, 255, 0);
+constexpr QColor label_colour(0, 0, 96);
 constexpr QColor waiting_colour(255, 128, 0);
 
 std::optional<gfx::SpriteKind> sprite_kind(Mode mode) {
@@ -74,19 +75,26 @@ QRect place(const QImage& image, QPoint origin, const StoredPosition& position) 
     return {pixel - origin, image.size()};
 }
 
-QFont label_font() {
+/// Returns the sea's id as it stands beside its port.
+QImage draw_label(int sea) {
+    const QString text = QString::number(sea);
     QFont font;
     font.setPixelSize(label_height - 3);
     font.setBold(true);
-    return font;
+    const int width = QFontMetrics(font).horizontalAdvance(text) + 2 * label_gap;
+    QImage image(width, label_height, QImage::Format_RGB32);
+    image.fill(label_colour);
+    QPainter painter(&image);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(image.rect(), Qt::AlignCenter, text);
+    return image;
 }
 
-QRect label_place(const QRect& picture, const QString& label) {
-    if (label.isEmpty())
-        return {};
-    const int width = QFontMetrics(label_font()).horizontalAdvance(label) + 2 * label_gap;
-    return {picture.right() + 1 + label_gap, picture.center().y() - label_height / 2, width,
-            label_height};
+/// Returns where the label stands beside the picture; empty for a label that is none.
+QRect label_place(const QRect& picture, const QImage& label) {
+    return {{picture.right() + 1 + label_gap, picture.center().y() - label.height() / 2},
+            label.size()};
 }
 
 QRect outline_place(const QRect& picture) {
@@ -101,12 +109,6 @@ void draw_outline(QPainter& painter, const QRect& picture, QColor colour) {
     painter.setPen(QPen(colour, 1));
     painter.drawRect(outer.adjusted(1, 1, -2, -2));
     painter.drawRect(outer.adjusted(2, 2, -3, -3));
-}
-
-void draw_label(QPainter& painter, const QRect& where, const QString& label) {
-    painter.fillRect(where, QColor(0, 0, 96));
-    painter.setPen(Qt::white);
-    painter.drawText(where, Qt::AlignCenter, label);
 }
 
 } // namespace
@@ -127,7 +129,6 @@ void OverlayPreview::paint(QPainter& painter, const QRect& exposed, int pointed_
     const bool sea_is_awaited = session_.mode == Mode::port && port.stage == 1;
 
     painter.save();
-    painter.setFont(label_font());
     std::vector<std::pair<QRect, QColor>> outlines; // above everything else
     const auto positions =
         positions_in(session_.provinces, session_.mode, session_.maps, area_reaching_into(exposed));
@@ -136,8 +137,8 @@ void OverlayPreview::paint(QPainter& painter, const QRect& exposed, int pointed_
         report(look.problem);
         const QRect picture = place(*look.image, look.origin, position);
         painter.drawImage(picture.topLeft(), *look.image);
-        if (const QString label = label_of(position.province); !label.isEmpty())
-            draw_label(painter, label_place(picture, label), label);
+        if (const QImage label = label_of(position.province); !label.isNull())
+            painter.drawImage(label_place(picture, label).topLeft(), label);
         if (sea_is_awaited && position.province == port.province)
             outlines.emplace_back(picture, waiting_colour);
         else if (position.province == pointed_province)
@@ -215,7 +216,7 @@ QRect OverlayPreview::largest_extent() const {
         }
     }
     if (session_.mode == Mode::port)
-        extent |= label_place(extent, QString::number(largest_shown_id));
+        extent |= label_place(extent, label(largest_shown_id));
     return outline_place(extent);
 }
 
@@ -228,16 +229,23 @@ Area OverlayPreview::area_reaching_into(const QRect& exposed) const {
             static_cast<double>(exposed.bottom()) - extent.top() + 1};
 }
 
-/// Returns the id of the sea that the province's port opens to; empty without one, and in every
+/// Returns the id of the sea that the province's port opens to; null without one, and in every
 /// other mode.
-QString OverlayPreview::label_of(int province) const {
+QImage OverlayPreview::label_of(int province) const {
     if (session_.mode != Mode::port)
         return {};
     const double sea =
         data::leading_number(session_.provinces.cell(province, data::table_column(sea_of_port)));
     if (sea < 1 || sea > largest_shown_id)
         return {};
-    return QString::number(static_cast<int>(sea));
+    return label(static_cast<int>(sea));
+}
+
+QImage OverlayPreview::label(int sea) const {
+    QImage& image = labels_[sea];
+    if (image.isNull())
+        image = draw_label(sea);
+    return image;
 }
 
 void OverlayPreview::report(const QString& problem) {
