@@ -117,6 +117,11 @@ void Panneau::show_selection() {
     }
 }
 
+void Panneau::forget_shown() {
+    for (const auto& entry : entries_)
+        entry.field->forget_shown();
+}
+
 void Panneau::write_typed_text() {
     for (const auto& entry : entries_) {
         if (entry.field->hasFocus() && entry.field->isModified())
