@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <compare>
 #include <string_view>
 
 /// The three numberings of a province value, and the only place where one becomes another.
@@ -10,19 +9,19 @@ namespace data {
 /// Column of the province file, 1 to 59; column 1 is the identifier.
 struct FileColumn {
     int number;
-    friend constexpr auto operator<=>(FileColumn, FileColumn) = default;
+    friend constexpr bool operator==(FileColumn, FileColumn) = default;
 };
 
 /// Column of the province table, 0 to 57.
 struct TableColumn {
     int index;
-    friend constexpr auto operator<=>(TableColumn, TableColumn) = default;
+    friend constexpr bool operator==(TableColumn, TableColumn) = default;
 };
 
 /// Number of a field in the editor panel, 1 to 58.
 struct FieldNumber {
     int number;
-    friend constexpr auto operator<=>(FieldNumber, FieldNumber) = default;
+    friend constexpr bool operator==(FieldNumber, FieldNumber) = default;
 };
 
 /// Returns the table column that holds the field.

@@ -19,8 +19,8 @@ constexpr std::string_view terra_incognita =
     "9472;3647;5740;4104;0;0;9472;3647;0;-100;-100;0;-100;-100;0;-100;-100;0;-100;-100;0;-;-;-;"
     "#N/A;0;0;0;#N/A;-1;-1";
 constexpr std::string_view filler =
-    "-1;Filler;inland;exotic;none;-1;-1;-1;-1;-1;0;-1;-1;9;0;0;0;0;-1;nothing;0;-1;-1;-1;-1;-1;-1;"
-    "-1;-1;-1;-1;-1;-1;-1;-1;0;0;0;0;0;0;0;0;0;0;0;0;0;;;;#N/A;0;0;0;0;0;0";
+    "-1;Filler;inland;exotic;none;-1;-1;-1;-1;-1;0;-1;-1;9;0;0;0;0;-1;nothing;0;-1;-1;-1;-1;"
+    "-1;-1;-1;-1;-1;-1;-1;-1;-1;-1;-1;0;0;0;0;0;0;0;0;0;0;0;0;0;;;;#N/A;0;0;0;0;0;0";
 
 /// Takes the next line from the bytes. A line ends at a carriage return only; the line feed behind
 /// it belongs to the line end.
@@ -45,7 +45,7 @@ std::string_view take_line(std::string_view& bytes) {
 
 /// Fills one row from the line's fields behind its identifier.
 void read_fields(std::string_view fields, int province, int line_number, ProvinceTable& table) {
-    for (TableColumn column{0}; column < first_unread; ++column.index) {
+    for (TableColumn column{0}; column.index < first_unread.index; ++column.index) {
         const auto end = fields.find(separator);
         if (end == std::string_view::npos)
             throw_too_few_fields(line_number, province, column);
@@ -89,7 +89,7 @@ std::string write_provinces(const ProvinceTable& table) {
     for (int province = 1; province <= last_province; ++province) {
         const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), province).ptr;
         bytes.append(digits.data(), end);
-        for (TableColumn column{0}; column < first_unwritten; ++column.index) {
+        for (TableColumn column{0}; column.index < first_unwritten.index; ++column.index) {
             bytes += separator;
             bytes += table.cell(province, column);
         }

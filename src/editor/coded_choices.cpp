@@ -25,6 +25,15 @@ constexpr std::array<Treaty, 3> treaties = {{
     {"ESPAGNE", "0", "1"},
 }};
 
+std::string_view treaty_code(std::string_view spain, std::string_view portugal) {
+    const bool of_spain = data::leading_number(spain) == 1;
+    const bool of_portugal = data::leading_number(portugal) == 1;
+    // A province that both claim shows no treaty.
+    if (of_spain == of_portugal)
+        return treaties[0].code;
+    return of_portugal ? treaties[1].code : treaties[2].code;
+}
+
 } // namespace
 
 void choose(data::ProvinceTable& table, const Selection& selection, const Field& field,
@@ -54,13 +63,14 @@ bool is_checked(const Field& field, std::string_view value) {
                                        : data::leading_number(value) == 1;
 }
 
-std::string_view treaty_code(std::string_view spain, std::string_view portugal) {
-    const bool of_spain = data::leading_number(spain) == 1;
-    const bool of_portugal = data::leading_number(portugal) == 1;
-    // A province that both claim shows no treaty.
-    if (of_spain == of_portugal)
-        return treaties[0].code;
-    return of_portugal ? treaties[1].code : treaties[2].code;
+MergedValues shown_values(const data::ProvinceTable& table, const Selection& selection) {
+    auto values = merged_values(table, selection);
+    const auto value = [&](data::FieldNumber field) -> std::string& {
+        return values.at(static_cast<std::size_t>(field.number - 1));
+    };
+    if (!selection.provinces().empty())
+        value(treaty_spain) = treaty_code(value(treaty_spain), value(treaty_portugal));
+    return values;
 }
 
 } // namespace editor

@@ -2,6 +2,7 @@
 
 #include "data/province_table.h"
 #include "editor/fields.h"
+#include "editor/merged_values.h"
 #include "editor/selection.h"
 
 #include <string>
@@ -21,7 +22,8 @@ std::string_view value_after_press(const Field& field, bool checked);
 /// Returns whether the field's box is checked for the value.
 bool is_checked(const Field& field, std::string_view value);
 
-/// Returns the code of the treaty option that both merged values switch on.
-std::string_view treaty_code(std::string_view spain, std::string_view portugal);
+/// Returns the merged values as the panel shows them: field 14's is the code of the treaty option
+/// that both treaty fields together mean, empty with nothing selected.
+MergedValues shown_values(const data::ProvinceTable& table, const Selection& selection);
 
 } // namespace editor

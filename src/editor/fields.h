@@ -17,7 +17,7 @@ enum class Shown {
     text,     // text field
     slider,   // text field with a slider beside it
     group,    // the option whose code is the value
-    treaty,   // both treaty fields share the group `tot`
+    treaty,   // the option that both treaty fields together mean
     list,     // the item whose code is the value
     box,      // checked for the number 1
     coast,    // checked for "coastal"
@@ -30,6 +30,7 @@ struct Field {
     Shown shown;
     std::string_view control;     // object name in UTF-8, with its index where it has one
     std::string_view list_prefix; // prefix of the language file's value list, if any
+    std::size_t list_entry = 0;   // of a box: the list's entry that captions it
 };
 
 /// The fields by field number, field 1 at index 0.

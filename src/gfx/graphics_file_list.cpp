@@ -10,9 +10,9 @@ namespace gfx {
 void GraphicsFileList::append(GraphicsFile file) {
     if (count_ < 0 || static_cast<std::size_t>(count_) >= capacity)
         throw data::RunTimeError(data::ErrorNumber::subscript_out_of_range,
-                                 file.path + ": the graphics file list has " +
-                                     std::to_string(capacity) + " records, record " +
-                                     std::to_string(count_ + 1) + " is none of them");
+                                 "record " + std::to_string(count_ + 1) +
+                                     " of the graphics file list, which has records 1 to " +
+                                     std::to_string(capacity));
     files_[static_cast<std::size_t>(count_)] = std::move(file);
     ++count_;
 }

@@ -1,37 +1,70 @@
 #pragma once
 
+#include "map/bitmap_cache.h"
+#include "map/stored_positions.h"
 #include "shell/session.h"
 
+#include <QImage>
+#include <QPoint>
 #include <QRect>
+#include <QSet>
 #include <QString>
 
 #include <functional>
+#include <string>
 
 class QPainter;
 
 namespace map {
 
-/// Shows on the map where the things that the mode places stand.
+/// Shows on the map what the game draws at the positions that the mode places: the sprites of the
+/// previewed sets, the terrain drawings with their art, and a marker where there is no picture.
 class OverlayPreview {
   public:
     /// The session must outlive the preview.
-    explicit OverlayPreview(const shell::Session& session) : session_(session) {}
+    explicit OverlayPreview(const shell::Session& session);
 
-    /// Draws what lies within the rectangle (pixels of the map), the pointed province's things
-    /// emphasised; -1 for none. Never throws.
+    /// Draws what reaches into the rectangle (pixels of the map), the pointed province's things
+    /// outlined; -1 for none. Never throws.
     void paint(QPainter& painter, const QRect& exposed, int pointed_province);
 
     /// Returns what painting the province's things covers, in pixels of the map; empty for none.
     QRect bounds(int province) const;
 
-    /// Forgets what was read from files.
-    void forget_bitmaps() {}
+    /// Forgets what was read from files, and which problems were reported.
+    void forget_bitmaps();
 
-    /// Receives what went wrong, in the user's terms.
+    /// Receives why a marker stands for a picture, in the user's terms; every reason once.
     std::function<void(QString)> on_problem;
 
   private:
+    /// What stands for a position: an image, the pixel of it that lies on the position, and why it
+    /// is the marker.
+    struct Look {
+        const QImage* image;
+        QPoint origin;
+        QString problem;
+    };
+
+    Look look_of(const StoredPosition& position) const;
+    Look sprite_look(gfx::SpriteKind kind) const;
+    Look drawing_look(const StoredPosition& position) const;
+    Look marker_look(const QString& problem = {}) const {
+        return {&marker_, marker_origin, problem};
+    }
+    const Bitmap& terrain_art(const std::string& file) const;
+
+    QRect largest_extent() const;
+    Area area_reaching_into(const QRect& exposed) const;
+    QString label_of(int province) const;
+    void report(const QString& problem);
+
+    static constexpr QPoint marker_origin{6, 6};
+
     const shell::Session& session_;
+    QImage marker_;
+    mutable BitmapCache bitmaps_; // what it keeps is what the files hold
+    QSet<QString> reported_;
 };
 
 } // namespace map

@@ -65,9 +65,15 @@ void replace_file(std::string_view path, std::string_view bytes) {
     const QString native = native_path(path);
     check_place(native);
     QSaveFile file(native);
-    if (!file.open(QIODevice::WriteOnly))
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         fail(number_of(file), native, file.errorString());
-    file.write(bytes.data(), static_cast<qint64>(bytes.size()));
+    while (!bytes.empty()) {
+        // A disk that fills up takes a part without an error; the next part then fails.
+        const qint64 written = file.write(bytes.data(), static_cast<qint64>(bytes.size()));
+        if (written <= 0)
+            fail(number_of(file), native, file.errorString());
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
     if (!file.commit())
         fail(number_of(file), native, file.errorString());
 }

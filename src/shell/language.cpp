@@ -109,6 +109,13 @@ std::string code_of_text(std::span<const Entry> list, std::size_t capacity, std:
                              "\"" + std::string(text) + "\" is none of the list's texts");
 }
 
+int index_of_code(std::span<const Entry> list, std::string_view code) {
+    const auto found = std::find_if(list.begin(), list.end(), [&](const Entry& entry) {
+        return equal_ignoring_case(entry.code, code);
+    });
+    return found == list.end() ? -1 : static_cast<int>(found - list.begin());
+}
+
 std::size_t capacity(std::string_view prefix) {
     return value_lists[list_index(prefix)].capacity;
 }

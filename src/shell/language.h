@@ -78,6 +78,9 @@ class LanguageTexts {
 /// entries up to the list's capacity count. Throws subscript out of range when none is.
 std::string code_of_text(std::span<const Entry> list, std::size_t capacity, std::string_view text);
 
+/// Returns the index of the first entry with the code, letter case aside; -1 when none has it.
+int index_of_code(std::span<const Entry> list, std::string_view code);
+
 /// Returns the capacity of the value list with the prefix. Throws subscript out of range.
 std::size_t capacity(std::string_view prefix);
 

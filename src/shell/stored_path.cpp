@@ -13,7 +13,7 @@ namespace {
 constexpr char separator = '\\';
 
 bool has_drive(const QString& path) {
-    return path.size() >= 2 && path[1] == ':';
+    return path.size() >= 2 && path[0].isLetter() && path[1] == ':';
 }
 
 #ifndef Q_OS_WIN
@@ -59,11 +59,15 @@ QString native_path(std::string_view path) {
 std::string stored_path(const QString& path) {
     if (has_drive(path))
         return to_bytes(path);
-    QString stored = QFileInfo(path).absoluteFilePath();
+    QString stored = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     stored.replace('/', separator);
     if (!has_drive(stored))
         stored.prepend(QStringLiteral("c:"));
     return to_bytes(stored);
+}
+
+bool is_storable(const QString& name) {
+    return to_qstring(to_bytes(name)) == name && !name.contains(separator);
 }
 
 std::string in_folder(std::string_view folder, std::string_view name) {

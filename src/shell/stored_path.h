@@ -15,6 +15,10 @@ QString native_path(std::string_view path);
 /// Returns the stored form of the path, made absolute. A stored path is returned as it is.
 std::string stored_path(const QString& path);
 
+/// Returns whether a stored path can hold the file's or folder's name: all its characters are in
+/// the code page and none is the separator.
+bool is_storable(const QString& name);
+
 /// Returns the stored path of a name in a stored folder.
 std::string in_folder(std::string_view folder, std::string_view name);
 

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "editor/fields.h"
+#include "editor/option_group.h"
+#include "shell/session.h"
+
+#include <QWidget>
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+class QLineEdit;
+class QSlider;
+
+namespace editor {
+
+class EntryField;
+
+/// The tabbed panel: shows the merged values of the selected provinces, and writes what the user
+/// enters into all of them at once.
+class Panneau : public QWidget {
+    Q_OBJECT
+
+  public:
+    Panneau(shell::Session& session, QWidget* parent);
+
+    std::string selection_text() const;
+    void set_selection_text(const std::string& text);
+
+    /// Shows the selected provinces' values in all controls.
+    void show_selection();
+
+    /// Writes a text that was typed into a field which still has the keyboard focus.
+    void write_typed_text();
+
+  signals:
+    void selection_entered(); ///< The selection text is to be applied.
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    /// Puts a merged value into a field's control.
+    using Show = std::function<void(const std::string& value)>;
+
+    /// A text field and how its typed text is stored.
+    struct Entry {
+        EntryField* field;
+        std::function<void()> store;
+    };
+
+    QWidget* build_selection_row();
+    void build_tabs();
+
+    Show bind(const Field& field);
+    Show bind_text(const Field& field);
+    Show bind_slider(const Field& field);
+    Show bind_group(const Field& field);
+    Show bind_list(const Field& field);
+    Show bind_box(const Field& field);
+    Show bind_label(const Field& field);
+
+    void write(const std::string& value, data::FieldNumber field);
+
+    shell::Session& session_;
+    QLineEdit* selection_text_;
+    std::array<Show, data::table_columns> shows_;
+    std::vector<std::unique_ptr<OptionGroup>> groups_;
+    std::vector<Entry> entries_;
+};
+
+} // namespace editor

@@ -1,0 +1,55 @@
+#include "gfx/form5.h"
+
+#include "shell/captions.h"
+#include "shell/messages.h"
+#include "shell/qt_text.h"
+#include "shell/session.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace gfx {
+
+namespace {
+
+constexpr int message_name_missing = 4;
+
+} // namespace
+
+Form5::Form5(shell::Session& session, QWidget* owner)
+    : QDialog(owner), session_(session), name_(new QLineEdit(this)) {
+    setObjectName(QStringLiteral("Form5"));
+    setWindowTitle(QApplication::applicationDisplayName());
+
+    auto* label = new QLabel(
+        shell::dialog_caption(session.language, "Form5.Label1", "Name of the set"), this);
+    label->setObjectName(QStringLiteral("Label1"));
+    label->setBuddy(name_);
+    name_->setObjectName(QStringLiteral("Text1"));
+    // The key ends with a blank.
+    auto* confirm =
+        new QPushButton(shell::dialog_caption(session.language, "Form5.Command1 ", "OK"), this);
+    confirm->setObjectName(QStringLiteral("Command1"));
+    confirm->setDefault(true);
+    connect(confirm, &QPushButton::clicked, this, &Form5::confirm);
+
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(label);
+    column->addWidget(name_);
+    column->addWidget(confirm, 0, Qt::AlignRight);
+}
+
+void Form5::confirm() {
+    const std::string name = shell::to_bytes(name_->text());
+    if (name.empty()) {
+        shell::show_message(session_, this, session_.language.message(message_name_missing));
+        return;
+    }
+    session_.graphics.current_set_name = name;
+    accept();
+}
+
+} // namespace gfx

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QDialog>
+
+class QLineEdit;
+
+namespace shell {
+struct Session;
+}
+
+namespace gfx {
+
+/// The set name box. What is typed becomes the current set name; a box that is closed in another
+/// way leaves that name as it was.
+class Form5 : public QDialog {
+    Q_OBJECT
+
+  public:
+    Form5(shell::Session& session, QWidget* owner);
+
+  private:
+    void confirm();
+
+    shell::Session& session_;
+    QLineEdit* name_;
+};
+
+} // namespace gfx

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QDateTime>
+#include <QImage>
+#include <QString>
+
+#include <map>
+#include <string>
+#include <utility>
+
+namespace map {
+
+/// What a bitmap file shows on the map.
+struct Bitmap {
+    QImage image;    // null when the file cannot be read
+    QString problem; // why not, with the file
+};
+
+/// Bitmaps that are read once and kept until their file changes.
+class BitmapCache {
+  public:
+    /// Returns the first of the frames that the bitmap with that stored path holds side by side.
+    /// The colour of its top left pixel is transparent. Fewer than one frame are one; a frame is at
+    /// least one pixel wide. The reference stays valid until `forget`. Never throws.
+    const Bitmap& first_frame(const std::string& path, int frames);
+
+    /// Makes each bitmap's file be looked at again, once, for changes.
+    void expect_changes() { ++round_; }
+
+    void forget() { kept_.clear(); }
+
+  private:
+    struct Kept {
+        Bitmap bitmap;
+        QDateTime modified;
+        qint64 size = -1; // bytes of the file
+        unsigned looked_at = 0;
+    };
+
+    std::map<std::pair<std::string, int>, Kept> kept_; // by path and frames
+    unsigned round_ = 1;
+};
+
+} // namespace map
