@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPaintEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -62,8 +63,10 @@ class BoxReader {
 class Form1 : public testing::Test {
   protected:
     Form1() {
-        session.maps.map_1_path = folder.write("1.bmp", plain_map());
-        session.maps.id_map_path = folder.write("id.bmp", id_map());
+        static const std::string plain = plain_map();
+        static const std::string provinces = id_map();
+        session.maps.map_1_path = folder.write("1.bmp", plain);
+        session.maps.id_map_path = folder.write("id.bmp", provinces);
     }
 
     /// Opens the maps in a window of the given size.
@@ -143,9 +146,9 @@ TEST_F(Form1, UnreadableImageIsAnError) {
 
 TEST_F(Form1, ClickSelects) {
     struct Row {
-        Qt::MouseButton button;
+        Qt::MouseButton button = Qt::NoButton;
         Qt::KeyboardModifiers keys;
-        const char* clicked;
+        const char* clicked = "";
     };
     const Row rows[] = {
         {Qt::LeftButton, Qt::NoModifier, "14 "},
@@ -228,6 +231,44 @@ TEST_F(Form1, MarksWhereThingsStand) {
     session.mode = Mode::armees;
     form->mode_changed();
     EXPECT_EQ(seen().pixel(350, 250), paper);
+}
+
+/// Collects what a widget paints.
+class PaintedRegion : public QObject {
+  public:
+    explicit PaintedRegion(QWidget* widget) { widget->installEventFilter(this); }
+    QRegion region;
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint)
+            region |= static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+};
+
+TEST_F(Form1, RepaintsOnlyWhatThePointedProvinceChanges) {
+    session.mode = Mode::ville;
+    open();
+    click({350, 250}); // province 22
+    click({850, 650}); // province 63
+    QTest::mouseMove(surface(), {10, 10});
+    QCoreApplication::processEvents();
+    const QImage before = seen();
+
+    PaintedRegion painted(surface());
+    QTest::mouseMove(surface(), {310, 210});
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(painted.region.contains(QPoint(350, 250)));
+    EXPECT_LT(painted.region.boundingRect().width(), 100);
+    EXPECT_NE(seen().pixel(350, 250), before.pixel(350, 250));
+
+    painted.region = {};
+    QTest::mouseMove(surface(), {810, 610});
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(painted.region.contains(QPoint(350, 250)));
+    EXPECT_TRUE(painted.region.contains(QPoint(850, 650)));
+    EXPECT_FALSE(painted.region.contains(QPoint(600, 450)));
 }
 
 TEST_F(Form1, DotsTheSelection) {
