@@ -86,7 +86,7 @@ void paint(benchmark::State& state, Mode mode, QSize spread) {
     const QRect exposed(QPoint((spread.width() - view_size.width()) / 2,
                                (spread.height() - view_size.height()) / 2),
                         view_size);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         QPainter painter(&surface);
         painter.translate(-exposed.topLeft());
         preview.paint(painter, exposed, 1000);
