@@ -19,8 +19,8 @@ constexpr std::string_view terra_incognita =
     "9472;3647;5740;4104;0;0;9472;3647;0;-100;-100;0;-100;-100;0;-100;-100;0;-100;-100;0;-;-;-;"
     "#N/A;0;0;0;#N/A;-1;-1";
 constexpr std::string_view filler =
-    "-1;Filler;inland;exotic;none;-1;-1;-1;-1;-1;0;-1;-1;9;0;0;0;0;-1;nothing;0;-1;-1;-1;-1;-1;-1;"
-    "-1;-1;-1;-1;-1;-1;-1;-1;0;0;0;0;0;0;0;0;0;0;0;0;0;;;;#N/A;0;0;0;0;0;0";
+    "-1;Filler;inland;exotic;none;-1;-1;-1;-1;-1;0;-1;-1;9;0;0;0;0;-1;nothing;0;-1;-1;-1;-1;"
+    "-1;-1;-1;-1;-1;-1;-1;-1;-1;-1;-1;0;0;0;0;0;0;0;0;0;0;0;0;0;;;;#N/A;0;0;0;0;0;0";
 
 /// Takes the next line from the bytes. A line ends at a carriage return only; the line feed behind
 /// it belongs to the line end.

@@ -12,6 +12,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHash>
 #include <QLabel>
 #include <QSlider>
 
@@ -23,11 +24,11 @@ namespace {
 
 using shell::from_source;
 
-constexpr int row_spacing = 6;                  // pixels
-constexpr int short_field_width = 72;           // pixels
-constexpr int position_width = 72;              // pixels
-constexpr int slider_end = 20;                  // both sliders run from 0
-constexpr auto caption_label = "block_caption"; // property of the labels that align
+constexpr int row_spacing = 6;                // pixels
+constexpr int short_field_width = 72;         // pixels
+constexpr int position_width = 72;            // pixels
+constexpr int slider_end = 20;                // both sliders run from 0
+constexpr auto aligned_with = "aligned_with"; // property of widgets that become equally wide
 
 /// Some caption keys hold a blank that belongs to the key only, not to the control's name.
 QString object_name(std::string_view caption_key) {
@@ -44,7 +45,7 @@ QHBoxLayout* captioned_row(const Block& block, const shell::LanguageTexts& langu
     auto* row = new QHBoxLayout;
     auto* label = new QLabel(caption(block, language), frame);
     label->setObjectName(object_name(block.caption_key));
-    label->setProperty(caption_label, true);
+    label->setProperty(aligned_with, "label");
     row->addWidget(label);
     return row;
 }
@@ -119,15 +120,22 @@ QWidget* build_buttons(const Block& block, const shell::LanguageTexts& language,
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(8, 4, 4, 4);
     grid->setVerticalSpacing(2);
-    for (int n = 0; n < static_cast<int>(block.captions.size()); ++n) {
-        const auto design = block.captions.at(static_cast<std::size_t>(n));
-        if (design.empty())
-            break;
-        auto* button = new Button(from_source(design), box);
-        button->setObjectName(QStringLiteral("%1(%2)").arg(from_source(block.controls[0])).arg(n));
-        grid->addWidget(button, n / block.options_in_row, n % block.options_in_row);
-        grid->setColumnStretch(n % block.options_in_row, 1);
+    for (int column = 0; column < block.options_in_row; ++column)
+        grid->setColumnStretch(column, 1);
+    const auto place = [&](QWidget* widget, int n) {
+        widget->setProperty(aligned_with, block.options_in_row);
+        grid->addWidget(widget, n / block.options_in_row, n % block.options_in_row);
+    };
+    int count = 0;
+    for (; !block.captions.at(static_cast<std::size_t>(count)).empty(); ++count) {
+        auto* button =
+            new Button(from_source(block.captions.at(static_cast<std::size_t>(count))), box);
+        button->setObjectName(
+            QStringLiteral("%1(%2)").arg(from_source(block.controls[0])).arg(count));
+        place(button, count);
     }
+    for (; count < block.options_in_row; ++count)
+        place(new QWidget(box), count); // an empty column would lose its width
     return box;
 }
 
@@ -178,14 +186,17 @@ QWidget* build_tab(const Tab& tab, const shell::LanguageTexts& language, QWidget
     return frame;
 }
 
-void align_labels(QWidget& panel) {
-    auto labels = panel.findChildren<QLabel*>();
-    labels.removeIf([](const QLabel* label) { return !label->property(caption_label).toBool(); });
-    int width = 0;
-    for (const QLabel* label : labels)
-        width = std::max(width, label->sizeHint().width());
-    for (QLabel* label : labels)
-        label->setMinimumWidth(width);
+void align(QWidget& panel) {
+    QHash<QString, int> widths;
+    const auto widgets = panel.findChildren<QWidget*>();
+    for (const QWidget* widget : widgets) {
+        int& width = widths[widget->property(aligned_with).toString()];
+        width = std::max(width, widget->sizeHint().width());
+    }
+    for (QWidget* widget : widgets) {
+        if (widget->property(aligned_with).isValid())
+            widget->setMinimumWidth(widths[widget->property(aligned_with).toString()]);
+    }
 }
 
 } // namespace editor

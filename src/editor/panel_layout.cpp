@@ -90,7 +90,7 @@ constexpr std::array economie = {
     Block{field, "Frame_economie (4)", "Valeur de mine", {"mine"}, 4},
 };
 
-constexpr std::array<std::string_view, 21> ten_levels = {"0", "1", "2", "3", "4",
+constexpr std::array<std::string_view, 22> ten_levels = {"0", "1", "2", "3", "4",
                                                          "5", "6", "7", "8", "9"};
 
 constexpr std::array colonie = {

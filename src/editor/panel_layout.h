@@ -27,7 +27,7 @@ struct Block {
     int column = 0;
     int column_span = 3;
     int options_in_row = 1;
-    std::array<std::string_view, 21> captions{}; // of the options or boxes, unused ones empty
+    std::array<std::string_view, 22> captions{}; // of the options or boxes, an empty one ends them
     std::string_view unit{};                     // behind a text field
 };
 

@@ -50,9 +50,10 @@ Panneau::Panneau(shell::Session& session, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addWidget(build_selection_row());
     build_tabs();
-    align_labels(*this);
     std::transform(fields.begin(), fields.end(), shows_.begin(),
                    [this](const Field& field) { return bind(field); });
+    align(*this);
+    show_selection();
     setFixedWidth(minimumSizeHint().width());
 }
 
@@ -114,6 +115,11 @@ void Panneau::show_selection() {
         if (shows_[n])
             shows_[n](values[n]);
     }
+}
+
+void Panneau::forget_shown() {
+    for (const auto& entry : entries_)
+        entry.field->forget_shown();
 }
 
 void Panneau::write_typed_text() {

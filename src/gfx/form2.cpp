@@ -22,14 +22,9 @@ constexpr int message_offset_missing = 14;
 constexpr int message_map_missing = 16;
 constexpr int initial_width = 620;
 constexpr int browse_width = 40;
-constexpr int offset_characters = 10;
+constexpr int offset_width = 90;
 constexpr int space_between_columns = 10;
 constexpr int space_above_heading = 12;
-
-/// Sets the width of a field to that many digits.
-void set_width(QLineEdit* field, int characters) {
-    field->setFixedWidth(field->fontMetrics().horizontalAdvance('0') * (characters + 2));
-}
 
 } // namespace
 
@@ -77,19 +72,19 @@ void Form2::lay_out() {
 
     x_offset_->setObjectName(QStringLiteral("Text3"));
     y_offset_->setObjectName(QStringLiteral("Text4"));
+    x_offset_->setFixedWidth(offset_width);
+    y_offset_->setFixedWidth(offset_width);
     label(4)->setBuddy(x_offset_);
     label(5)->setBuddy(y_offset_);
     label(6)->setContentsMargins(0, space_above_heading, 0, 0);
     grid->addWidget(label(6), file_count, 0, 1, 3);
     auto* offsets = new QHBoxLayout;
-    for (QLineEdit* field : {x_offset_, y_offset_}) {
-        set_width(field, offset_characters);
-        offsets->addWidget(field == x_offset_ ? label(4) : label(5));
-        offsets->addWidget(field);
-        offsets->addSpacing(space_above_heading);
-    }
+    offsets->setSpacing(space_between_columns);
+    for (QWidget* part : std::array<QWidget*, 3>{x_offset_, label(5), y_offset_})
+        offsets->addWidget(part);
     offsets->addStretch();
-    grid->addLayout(offsets, file_count + 1, 0, 1, 3);
+    grid->addWidget(label(4), file_count + 1, 0);
+    grid->addLayout(offsets, file_count + 1, 1);
 
     confirm_->setObjectName(QStringLiteral("Command1"));
     confirm_->setDefault(true);

@@ -138,15 +138,13 @@ std::optional<std::array<Channel, 3>> read_channels(std::span<const char> head) 
     return channels;
 }
 
-/// Returns the channel's value within the pixel, stretched or cut to eight bits.
+/// Returns the channel's value within the pixel in eight bits. Low bits that it lacks are 0, since
+/// identification would take others for a part of the identifier.
 std::uint32_t channel_value(std::uint32_t pixel, Channel channel) {
-    std::uint32_t value = pixel >> channel.shift;
+    const std::uint32_t value = pixel >> channel.shift;
     if (channel.bits >= 8)
         return value >> (channel.bits - 8) & 0xFF;
-    value = (value << (8 - channel.bits)) & 0xFF;
-    for (unsigned filled = channel.bits; filled < 8; filled *= 2)
-        value |= value >> filled;
-    return value;
+    return value << (8 - channel.bits) & 0xFF;
 }
 
 Pixel from_channels(std::uint32_t pixel, const std::array<Channel, 3>& channels) {

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace map {
 
@@ -72,7 +73,7 @@ MapReader::MapReader(const MapImage& image) : image_(image) {
     file_.setFileName(image.file_name_);
     if (!file_.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return;
-    std::array<char, bitmap_head_size> buffer;
+    std::array<char, bitmap_head_size> buffer = {};
     const qint64 read = file_.read(buffer.data(), buffer.size());
     const std::string_view head(buffer.data(), static_cast<std::size_t>(std::max<qint64>(read, 0)));
     if (head == image.head_) {
@@ -80,9 +81,11 @@ MapReader::MapReader(const MapImage& image) : image_(image) {
         return;
     }
     try {
-        new_layout_ = read_bitmap_layout(head, static_cast<std::uint64_t>(file_.size()));
+        // Half written perhaps: the rows that are there are worth showing.
+        constexpr auto any_size = std::numeric_limits<std::uint64_t>::max();
+        new_layout_ = read_bitmap_layout(head, any_size);
     } catch (const data::RunTimeError&) {
-        return; // half written perhaps; grey until it is whole
+        return;
     }
     if (new_layout_ && size_of(*new_layout_) == image.size_)
         layout_ = &*new_layout_;

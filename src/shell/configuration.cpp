@@ -45,8 +45,8 @@ void take_record(const gfx::GraphicsFile& record, Configuration& configuration,
 
 } // namespace
 
-Configuration read_configuration(std::string_view bytes, const GraphicsRecord& receive) {
-    Configuration configuration;
+void read_configuration(std::string_view bytes, Configuration& configuration,
+                        const GraphicsRecord& receive) {
     data::RecordReader reader(bytes);
     while (!reader.at_end()) {
         gfx::GraphicsFile record{.kind = reader.next(), .path = {}, .set_name = {}};
@@ -59,7 +59,6 @@ Configuration read_configuration(std::string_view bytes, const GraphicsRecord& r
             throw error.within("line " + std::to_string(line));
         }
     }
-    return configuration;
 }
 
 std::string write_configuration(const Configuration& configuration,

@@ -23,9 +23,10 @@ struct Configuration {
 /// Receives the three texts of a record whose key is none of the configuration's own.
 using GraphicsRecord = std::function<void(const gfx::GraphicsFile&)>;
 
-/// Reads config.txt. What it lacks keeps its default. Throws what the record reader and the
-/// receiver throw, with the line in its place.
-Configuration read_configuration(std::string_view bytes, const GraphicsRecord& receive);
+/// Reads config.txt record by record into the configuration; what the file lacks stays. Throws what
+/// the record reader and the receiver throw, with the line in its place.
+void read_configuration(std::string_view bytes, Configuration& configuration,
+                        const GraphicsRecord& receive);
 
 /// Returns the bytes of config.txt.
 std::string write_configuration(const Configuration& configuration,

@@ -11,11 +11,8 @@ namespace shell {
 
 namespace {
 
-int show_box(const Session& session, QWidget* owner, const char* name, QMessageBox::Icon icon,
-             const std::string& text, QMessageBox::StandardButtons buttons,
-             QMessageBox::StandardButton preset) {
-    if (session.unattended)
-        throw std::runtime_error(text);
+int show_box(QWidget* owner, const char* name, QMessageBox::Icon icon, const std::string& text,
+             QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset) {
     QMessageBox box(icon, QApplication::applicationDisplayName(), to_qstring(text), buttons, owner);
     box.setObjectName(QString::fromLatin1(name));
     box.setTextFormat(Qt::PlainText);
@@ -23,22 +20,32 @@ int show_box(const Session& session, QWidget* owner, const char* name, QMessageB
     return box.exec();
 }
 
+void throw_if_unattended(const Session& session, const std::string& text) {
+    if (session.unattended)
+        throw std::runtime_error(text);
+}
+
 } // namespace
 
 void show_message(const Session& session, QWidget* owner, const std::string& text) {
-    show_box(session, owner, "message", QMessageBox::Warning, text, QMessageBox::Ok,
-             QMessageBox::Ok);
+    throw_if_unattended(session, text);
+    show_box(owner, "message", QMessageBox::Warning, text, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 bool ask(const Session& session, QWidget* owner, const std::string& text, DefaultAnswer preset) {
-    return show_box(session, owner, "message", QMessageBox::Question, text,
-                    QMessageBox::Yes | QMessageBox::No,
-                    preset == DefaultAnswer::yes ? QMessageBox::Yes : QMessageBox::No) ==
-           QMessageBox::Yes;
+    throw_if_unattended(session, text);
+    const auto button = preset == DefaultAnswer::yes ? QMessageBox::Yes : QMessageBox::No;
+    return show_box(owner, "message", QMessageBox::Question, text,
+                    QMessageBox::Yes | QMessageBox::No, button) == QMessageBox::Yes;
 }
 
 void show_error(const Session& session, QWidget* owner, const data::RunTimeError& error) {
-    show_box(session, owner, "run_time_error", QMessageBox::Critical, error.what(), QMessageBox::Ok,
+    throw_if_unattended(session, error.what());
+    show_error_box(owner, error.what());
+}
+
+void show_error_box(QWidget* owner, const std::string& text) {
+    show_box(owner, "run_time_error", QMessageBox::Critical, text, QMessageBox::Ok,
              QMessageBox::Ok);
 }
 

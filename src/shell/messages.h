@@ -21,4 +21,7 @@ bool ask(const Session& session, QWidget* owner, const std::string& text, Defaul
 /// Shows an error that ends one operation only; the program goes on.
 void show_error(const Session& session, QWidget* owner, const data::RunTimeError& error);
 
+/// Shows the text of an error that ends the program.
+void show_error_box(QWidget* owner, const std::string& text);
+
 } // namespace shell

@@ -199,8 +199,11 @@ TEST_F(Form4Test, FileIsChosenByMouseAndKeyboard) {
         },
         [&] { double_click(files(), "A.CSV"); },
         [&] {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            click(folders(), "data");
+            QTest::keyClick(&folders(), Qt::Key_Tab);
+            ASSERT_EQ(QApplication::focusWidget(), &files());
+            QTest::keyClick(&files(), Qt::Key_Down);
+            QTest::keyClick(&files(), Qt::Key_Return);
         },
     };
     for (const auto& act : choices) {
@@ -245,16 +248,16 @@ TEST_F(Form4Test, NameToSaveUnderGetsItsExtension) {
         {"sub\\x.y", "sub\\x.y.csv"},
         {"\xC3\xA9t\xC3\xA9", "\xE9t\xE9.csv"},
     };
-    for (const auto& [typed, saved] : names) {
+    for (const auto& row : names) {
         choose(ChooserKind::CSV2, stored("b.csv"));
         EXPECT_TRUE(run([&] {
             ASSERT_EQ(QApplication::focusWidget(), &name());
             name().clear();
-            name().insert(QString::fromUtf8(typed));
+            name().insert(QString::fromUtf8(row.first));
             QTest::keyClick(&name(), Qt::Key_Return);
         }));
         EXPECT_EQ(session.cancelled_flag, 0);
-        EXPECT_EQ(session.configuration.province_save_path, stored(saved));
+        EXPECT_EQ(session.configuration.province_save_path, stored(row.second));
     }
 }
 

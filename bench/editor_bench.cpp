@@ -1,0 +1,145 @@
+#include "data/province_file.h"
+#include "editor/merged_values.h"
+#include "editor/selection.h"
+#include "shell/mdi_form1.h"
+#include "shell/session.h"
+#include "shell/stored_path.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+#include <memory>
+#include <string>
+
+/// The program's main job on a full province file: read, select, show, edit, write.
+namespace {
+
+constexpr auto all_provinces = "1-2018";
+
+/// A full table of the users' size: 2,018 provinces in half a megabyte.
+data::ProvinceTable full_table() {
+    data::ProvinceTable table;
+    for (int province = 1; province <= data::last_province; ++province) {
+        const std::string number = std::to_string(province);
+        for (data::TableColumn column{0}; column.index < data::first_unread.index; ++column.index)
+            table.load(province, column, std::to_string(column.index * 7 % 40));
+        table.load(province, {0}, "The province of number " + number);
+        table.load(province, {2}, "counterreformed");
+        for (int column = 27; column < 36; ++column)
+            table.load(province, {column}, std::to_string(province * 3 + column * 100));
+        table.load(province, {48}, "Northern Highlands");
+        table.load(province, {51}, "City of " + number);
+    }
+    return table;
+}
+
+void read_file(benchmark::State& state) {
+    const std::string bytes = write_provinces(full_table());
+    data::ProvinceTable table;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(data::read_provinces(bytes, table));
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
+}
+BENCHMARK(read_file)->Unit(benchmark::kMillisecond);
+
+void read_file_into_empty_table(benchmark::State& state) {
+    const std::string bytes = write_provinces(full_table());
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto table = std::make_unique<data::ProvinceTable>();
+        state.ResumeTiming();
+        benchmark::DoNotOptimize(data::read_provinces(bytes, *table));
+        state.PauseTiming();
+        table.reset();
+        state.ResumeTiming();
+    }
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
+}
+BENCHMARK(read_file_into_empty_table)->Unit(benchmark::kMillisecond);
+
+void write_file(benchmark::State& state) {
+    const auto table = full_table();
+    std::size_t size = 0;
+    for (auto _ : state) {
+        const std::string bytes = write_provinces(table);
+        size = bytes.size();
+        benchmark::DoNotOptimize(bytes.data());
+    }
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(size));
+}
+BENCHMARK(write_file)->Unit(benchmark::kMillisecond);
+
+void merge_all_fields_of_all_provinces(benchmark::State& state) {
+    // The worst case: no two provinces differ, so every cell is looked at.
+    data::ProvinceTable table;
+    for (int province = 1; province <= data::last_province; ++province) {
+        for (data::TableColumn column{0}; column.index < data::table_columns; ++column.index)
+            table.load(province, column, "the same text");
+    }
+    editor::Selection selection;
+    selection.apply(all_provinces);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(merged_values(table, selection));
+}
+BENCHMARK(merge_all_fields_of_all_provinces)->Unit(benchmark::kMicrosecond);
+
+void write_a_value_into_all_provinces(benchmark::State& state) {
+    auto table = full_table();
+    editor::Selection selection;
+    selection.apply(all_provinces);
+    bool other = false;
+    for (auto _ : state) {
+        changement(table, selection, other ? "12" : "a rather long text for a cell", {1});
+        other = !other;
+    }
+}
+BENCHMARK(write_a_value_into_all_provinces)->Unit(benchmark::kMicrosecond);
+
+/// The program's folder with the shipped language files.
+class Program {
+  public:
+    Program() {
+        const QString languages = QStringLiteral(LANGUAGES_FOLDER "/english.lng");
+        QFile::copy(languages, folder_.filePath(QStringLiteral("english.lng")));
+    }
+    std::unique_ptr<shell::Session> session() const {
+        auto session = std::make_unique<shell::Session>();
+        session->program_folder = shell::stored_path(folder_.path());
+        return session;
+    }
+
+  private:
+    QTemporaryDir folder_;
+};
+
+void apply_selection_until_the_panel_is_shown(benchmark::State& state) {
+    const Program program;
+    const auto session = program.session();
+    shell::MDIForm1 frame(*session);
+    session->provinces = full_table();
+    frame.show();
+    QApplication::processEvents();
+    bool all = true;
+    for (auto _ : state) {
+        frame.apply_selection(all ? all_provinces : "5");
+        QApplication::processEvents(); // paints
+        all = !all;
+    }
+}
+BENCHMARK(apply_selection_until_the_panel_is_shown)->Unit(benchmark::kMillisecond);
+
+void start_until_the_main_frame_is_shown(benchmark::State& state) {
+    const Program program;
+    for (auto _ : state) {
+        const auto session = program.session();
+        shell::MDIForm1 frame(*session);
+        frame.show();
+        QApplication::processEvents();
+        benchmark::DoNotOptimize(frame.isVisible());
+    }
+}
+BENCHMARK(start_until_the_main_frame_is_shown)->Unit(benchmark::kMillisecond);
+
+} // namespace

@@ -1,0 +1,242 @@
+#include "map/form1.h"
+#include "map/map_image.h"
+#include "shell/session.h"
+#include "shell/stored_path.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTemporaryDir>
+
+#include <array>
+#include <benchmark/benchmark.h>
+#include <cstdint>
+#include <fstream>
+#include <memory>
+#include <random>
+#include <span>
+#include <string>
+#include <vector>
+
+/// The largest maps that users have, in three bitmaps of 415 MB.
+namespace {
+
+constexpr int map_width = 18944;
+constexpr int map_height = 7296;
+constexpr QSize view(1920, 1080);
+constexpr int cell = 260; // pixels; a province is such a square, so all but a few exist
+
+/// Returns the colour whose identification is the province.
+std::array<char, 3> colour_of(int province) {
+    std::array<unsigned, 3> red_green_blue = {};
+    for (unsigned bit = 0; bit < 12; ++bit)
+        red_green_blue.at(bit % 3) |= (static_cast<unsigned>(province) >> bit & 1) << (7 - bit / 3);
+    return {static_cast<char>(red_green_blue[2]), static_cast<char>(red_green_blue[1]),
+            static_cast<char>(red_green_blue[0])};
+}
+
+void append(std::string& bytes, std::uint32_t value, int count) {
+    for (int i = 0; i < count; ++i)
+        bytes += static_cast<char>(value >> (8 * i) & 0xFF);
+}
+
+void write_map(const QString& file_name) {
+    constexpr std::uint32_t row_size = map_width * 3; // a whole number of four bytes
+    std::string header = "BM";
+    append(header, 54 + row_size * map_height, 4);
+    append(header, 0, 4);
+    append(header, 54, 4);
+    append(header, 40, 4);
+    append(header, map_width, 4);
+    append(header, map_height, 4);
+    append(header, 1, 2);
+    append(header, 24, 2);
+    append(header, 0, 24);
+
+    QFile file(file_name);
+    if (!file.open(QIODevice::WriteOnly))
+        qFatal("no place for the maps");
+    file.write(header.data(), static_cast<qint64>(header.size()));
+    constexpr int columns = (map_width + cell - 1) / cell;
+    std::string row;
+    for (int y = 0; y < map_height; ++y) {
+        if (y % cell == 0) {
+            row.clear();
+            for (int x = 0; x < map_width; ++x) {
+                const auto colour = colour_of((y / cell * columns + x / cell) % 2018 + 1);
+                row.append(colour.data(), colour.size());
+            }
+        }
+        if (file.write(row.data(), static_cast<qint64>(row.size())) < 0)
+            qFatal("no place for the maps");
+    }
+}
+
+/// The three maps, made for the first benchmark that needs them and deleted at the end.
+class World {
+  public:
+    World() {
+        for (auto& path : paths_) {
+            const auto number = &path - paths_.data();
+            const QString file_name = folder_.filePath(QString::number(number) + ".bmp");
+            write_map(file_name);
+            path = shell::stored_path(file_name);
+        }
+    }
+
+    map::Maps maps() const { return {paths_[0], paths_[1], paths_[2], 0, 0}; }
+
+  private:
+    QTemporaryDir folder_;
+    std::array<std::string, 3> paths_;
+};
+
+const World& world() {
+    static const World the_world;
+    return the_world;
+}
+
+std::unique_ptr<shell::Session> session_with_maps() {
+    auto session = std::make_unique<shell::Session>();
+    session->maps = world().maps();
+    return session;
+}
+
+std::unique_ptr<map::Form1> shown_window(shell::Session& session) {
+    auto window = std::make_unique<map::Form1>(session);
+    window->resize(view);
+    window->show();
+    QCoreApplication::processEvents();
+    return window;
+}
+
+QWidget* shown_surface(const map::Form1& window) {
+    return window.findChild<QWidget*>(QStringLiteral("Picture1"));
+}
+
+/// Returns the process's own memory in MB.
+double memory() {
+    std::ifstream statm("/proc/self/statm");
+    double all_pages = 0;
+    double resident = 0;
+    double shared = 0;
+    statm >> all_pages >> resident >> shared;
+    return resident * 4096 / 1e6;
+}
+
+class RandomPlace {
+  public:
+    QPoint next() {
+        return {static_cast<int>(random_() % (map_width - static_cast<unsigned>(view.width()))),
+                static_cast<int>(random_() % (map_height - static_cast<unsigned>(view.height())))};
+    }
+
+  private:
+    std::mt19937 random_{1};
+};
+
+void open_three_maps(benchmark::State& state) {
+    const auto session = session_with_maps();
+    shown_window(*session);
+    for ([[maybe_unused]] auto _ : state)
+        shown_window(*session);
+}
+BENCHMARK(open_three_maps)->Unit(benchmark::kMillisecond);
+
+void memory_of_three_maps(benchmark::State& state) {
+    const auto session = session_with_maps();
+    for ([[maybe_unused]] auto _ : state) {
+        const double before = memory();
+        const auto window = shown_window(*session);
+        for (const auto shown : {map::Shown::map_2, map::Shown::id_map, map::Shown::map_1}) {
+            window->show_map(shown);
+            QCoreApplication::processEvents();
+        }
+        session->selection.apply("1-2018");
+        window->selection_changed();
+        QCoreApplication::processEvents();
+        state.counters["MB"] = memory() - before;
+    }
+}
+BENCHMARK(memory_of_three_maps)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+void paint_a_random_place(benchmark::State& state, const char* selection, map::Mode mode) {
+    const auto session = session_with_maps();
+    session->selection.apply(selection);
+    session->mode = mode;
+    std::mt19937 random(1);
+    for (int province = 1; province <= data::last_province; ++province) {
+        session->provinces.write(province, data::TableColumn{27},
+                                 std::to_string(random() % map_width));
+        session->provinces.write(province, data::TableColumn{28},
+                                 std::to_string(random() % map_height));
+    }
+    const auto window = shown_window(*session);
+    auto* area = window->findChild<QScrollArea*>();
+    RandomPlace place;
+    for ([[maybe_unused]] auto _ : state) {
+        const QPoint corner = place.next();
+        area->horizontalScrollBar()->setValue(corner.x());
+        area->verticalScrollBar()->setValue(corner.y());
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK_CAPTURE(paint_a_random_place, map_alone, "", map::Mode::normal)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(paint_a_random_place, all_dots, "1-2018", map::Mode::normal)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(paint_a_random_place, city_markers, "", map::Mode::ville)
+    ->Unit(benchmark::kMillisecond);
+
+void province_under_the_pointer(benchmark::State& state) {
+    const map::MapImage image(world().maps().id_map_path);
+    RandomPlace place;
+    for ([[maybe_unused]] auto _ : state)
+        benchmark::DoNotOptimize(map::province_of(image.colour_at(place.next()).value_or(0)));
+}
+BENCHMARK(province_under_the_pointer)->Unit(benchmark::kMicrosecond);
+
+void dots_of_all_provinces(benchmark::State& state) {
+    const map::MapImage image(world().maps().id_map_path);
+    editor::Selection selection;
+    selection.apply("1-2018");
+    for ([[maybe_unused]] auto _ : state) {
+        map::MapReader reader(image);
+        const map::SelectionDots dots(map_width, map_height, selection,
+                                      [&reader](int y, std::span<map::Pixel> pixels) {
+                                          reader.read_row(y, 0, map::dot_spacing, pixels);
+                                      });
+        state.counters["samples"] = dots.columns() * dots.rows();
+        benchmark::DoNotOptimize(dots.has_dot(0, 0));
+    }
+}
+BENCHMARK(dots_of_all_provinces)->Unit(benchmark::kMillisecond);
+
+void send(QWidget* surface, QEvent::Type type, QPoint point, Qt::MouseButtons held) {
+    QMouseEvent event(type, point, surface->mapToGlobal(point), Qt::LeftButton, held,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(surface, &event);
+}
+
+void click_to_dots_painted(benchmark::State& state) {
+    const auto session = session_with_maps();
+    const auto window = shown_window(*session);
+    QObject::connect(window.get(), &map::Form1::province_clicked, window.get(), [&](int province) {
+        session->selection.apply(std::to_string(province));
+        window->selection_changed();
+    });
+    QWidget* surface = shown_surface(*window);
+    RandomPlace place;
+    for ([[maybe_unused]] auto _ : state) {
+        const QPoint point(place.next().x() % view.width(), 500);
+        send(surface, QEvent::MouseButtonPress, point, Qt::LeftButton);
+        send(surface, QEvent::MouseButtonRelease, point, Qt::NoButton);
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(click_to_dots_painted)->Unit(benchmark::kMillisecond);
+
+} // namespace

@@ -1,0 +1,131 @@
+#include "data/province_file.h"
+#include "shell/application.h"
+#include "shell/command_line.h"
+#include "shell/files.h"
+#include "shell/mdi_form1.h"
+#include "shell/qt_text.h"
+#include "shell/stored_path.h"
+#include "shell/termination.h"
+
+#include <QScreen>
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+#include <stdexcept>
+#include <variant>
+
+namespace {
+
+constexpr int wrong_use = 2;
+
+[[noreturn]] void end_program(int status) {
+    // Windows may still be open in nested event loops: nothing of them is to run any more.
+    std::cout.flush();
+    std::cerr.flush();
+    std::fflush(nullptr);
+    std::_Exit(status);
+}
+
+bool has_display() {
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
+           !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+#else
+    return true;
+#endif
+}
+
+/// Tells on standard error how much of the province file was understood, and why nothing was.
+void report(const std::string& path, const data::ReadReport& read) {
+    std::cerr << shell::to_qstring(shell::shown_path(path)).toStdString()
+              << ": provinces read: " << read.provinces;
+    if (read.provinces == 0 && read.lines == 0)
+        std::cerr << ": the file is empty";
+    else if (read.provinces == 0 && !read.has_carriage_return)
+        std::cerr << ": no line of it ends with a carriage return (lines must end with carriage "
+                     "return and line feed)";
+    else if (read.provinces == 0)
+        std::cerr << ": none of its " << read.lines << " lines begins with an identifier from 1 to "
+                  << data::last_province;
+    std::cerr << std::endl;
+}
+
+void obey(const shell::CommandLine& line, shell::Session& session, shell::MDIForm1& frame) {
+    if (line.csv) {
+        session.configuration.province_file_path = *line.csv;
+        report(*line.csv, frame.open_province_file());
+    }
+    if (line.maps) {
+        session.maps = *line.maps;
+        frame.open_maps();
+    }
+    if (line.select) {
+        frame.set_selection_text(*line.select);
+        frame.apply_selection(*line.select);
+    }
+}
+
+void save_picture(QWidget& frame, const QString& file) {
+    frame.show();
+    QApplication::processEvents();
+    if (!frame.grab().save(file, "PNG"))
+        throw std::runtime_error("The picture could not be written to " + file.toStdString());
+}
+
+/// A frame that its screen could not hold together with its title bar takes the whole screen.
+void show_window(QWidget& frame) {
+    const QSize room = frame.screen()->availableSize();
+    if (room.width() > frame.width() && room.height() > frame.height())
+        frame.show();
+    else
+        frame.showMaximized();
+}
+
+int run(shell::Application& application, shell::Session& session, const shell::CommandLine& line) {
+    session.program_folder =
+        line.folder.value_or(shell::stored_path(QApplication::applicationDirPath()));
+    session.unattended = line.screenshot.has_value();
+
+    const shell::Termination termination([&](int status) { application.terminate(status); });
+    shell::MDIForm1 frame(session);
+    if (line.screenshot) {
+        obey(line, session, frame);
+        save_picture(frame, *line.screenshot);
+        return EXIT_SUCCESS;
+    }
+    show_window(frame);
+    obey(line, session, frame);
+    application.event_loop_begins();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const bool is_seen = has_display();
+    if (!is_seen)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+
+    shell::Session session;
+    shell::Application application(argc, argv, session, end_program);
+    const auto asked = shell::read_command_line(QApplication::arguments());
+    if (const auto* text = std::get_if<shell::PrintAndEnd>(&asked)) {
+        (text->is_error ? std::cerr : std::cout) << text->text.toStdString();
+        return text->is_error ? wrong_use : EXIT_SUCCESS;
+    }
+    const auto& line = std::get<shell::CommandLine>(asked);
+    if (!is_seen && !line.screenshot) {
+        std::cerr << "There is no display to open a window on. --screenshot FILE paints the window "
+                     "into a picture instead.\n";
+        return EXIT_FAILURE;
+    }
+    try {
+        return run(application, session, line);
+    } catch (const std::exception& error) {
+        application.fail(error);
+        return EXIT_FAILURE;
+    }
+}

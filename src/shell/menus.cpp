@@ -1,0 +1,98 @@
+#include "shell/menus.h"
+
+#include "shell/mdi_form1.h"
+
+#include <array>
+
+namespace shell {
+
+namespace {
+
+using gfx::SpriteKind;
+using map::Mode;
+using map::Shown;
+
+template <Shown map>
+void show_map(MDIForm1& frame) {
+    frame.show_map(map);
+}
+
+template <Mode mode>
+void enter_mode(MDIForm1& frame) {
+    frame.enter_mode(mode);
+}
+
+template <SpriteKind kind, int item>
+void preview(MDIForm1& frame) {
+    frame.preview(kind, item);
+}
+
+template <void (MDIForm1::*command)()>
+void run(MDIForm1& frame) {
+    (frame.*command)();
+}
+
+constexpr bool checkable = true;
+constexpr bool after_separator = true;
+
+constexpr std::array items = {
+    MenuItem{"", "fichier", "&Fichier"},
+    MenuItem{"fichier", "ouvrir_cartes", "Ouvrir &cartes...", run<&MDIForm1::ouvrir_cartes>,
+             "Ctrl+M"},
+    MenuItem{"fichier", "ouvrir_csv", "&Ouvrir fichier province...", run<&MDIForm1::ouvrir_csv>,
+             "Ctrl+O"},
+    MenuItem{"fichier", "gfx", "Emplacement &gfx...", run<&MDIForm1::gfx>, "Ctrl+G"},
+    MenuItem{"fichier", "enregister", "&Enregistrer...", run<&MDIForm1::enregister>, "Ctrl+S"},
+    MenuItem{"fichier", "quitter", "&Quitter", run<&MDIForm1::quitter>, "Ctrl+Q", false,
+             after_separator},
+
+    MenuItem{"", "carte", "&Carte"},
+    MenuItem{"carte", "carte_1", "Carte &1", show_map<Shown::map_1>, "Ctrl+1", checkable},
+    MenuItem{"carte", "carte_2", "Carte &2", show_map<Shown::map_2>, "Ctrl+2", checkable},
+    MenuItem{"carte", "carte_id", "Carte &id", show_map<Shown::id_map>, "Ctrl+3", checkable},
+
+    MenuItem{"", "mode", "&Mode"},
+    MenuItem{"mode", "normal", "&Normal", enter_mode<Mode::normal>, "F2", checkable},
+    MenuItem{"mode", "saisie", "&Saisie"},
+    MenuItem{"saisie", "ville_menu", "&Ville", enter_mode<Mode::ville>, "F3", checkable},
+    MenuItem{"saisie", "armées_menu", "&Armées", enter_mode<Mode::armees>, "F4", checkable},
+    MenuItem{"saisie", "port_menu", "&Port", enter_mode<Mode::port>, "F5", checkable},
+    MenuItem{"saisie", "manuf_menu", "&Manufacture", enter_mode<Mode::manuf>, "F6", checkable},
+    MenuItem{"saisie", "dessin_menu", "&Dessin", enter_mode<Mode::dessin>, "F7", checkable},
+
+    MenuItem{"", "graphisme", "&Graphisme"},
+    MenuItem{"graphisme", "ville_graph(1)", "Ville 1", preview<SpriteKind::ville, 1>, "",
+             checkable},
+    MenuItem{"graphisme", "ville_graph(2)", "Ville 2", preview<SpriteKind::ville, 2>, "",
+             checkable},
+    MenuItem{"graphisme", "ville_graph(3)", "Ville 3", preview<SpriteKind::ville, 3>, "",
+             checkable},
+    MenuItem{"graphisme", "armée_graph(1)", "Armée 1", preview<SpriteKind::armees, 1>, "",
+             checkable, after_separator},
+    MenuItem{"graphisme", "armée_graph(2)", "Armée 2", preview<SpriteKind::armees, 2>, "",
+             checkable},
+    MenuItem{"graphisme", "armée_graph(3)", "Armée 3", preview<SpriteKind::armees, 3>, "",
+             checkable},
+    MenuItem{"graphisme", "armée_graph(4)", "Armée 4", preview<SpriteKind::armees, 4>, "",
+             checkable},
+    MenuItem{"graphisme", "manuf_graph(1)", "Manufacture 1", preview<SpriteKind::manuf, 1>, "",
+             checkable, after_separator},
+    MenuItem{"graphisme", "manuf_graph(2)", "Manufacture 2", preview<SpriteKind::manuf, 2>, "",
+             checkable},
+    MenuItem{"graphisme", "port_graph(1)", "Port 1", preview<SpriteKind::port, 1>, "", checkable,
+             after_separator},
+    MenuItem{"graphisme", "port_graph(2)", "Port 2", preview<SpriteKind::port, 2>, "", checkable},
+    MenuItem{"graphisme", "dessin_graph", "&Dessins", run<&MDIForm1::toggle_drawings>, "",
+             checkable, after_separator},
+
+    MenuItem{"", "langue", "&Langue"},
+    MenuItem{"", "propos", "À &propos...", run<&MDIForm1::propos>},
+};
+
+} // namespace
+
+std::span<const MenuItem> menu_items() {
+    return items;
+}
+
+} // namespace shell

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace shell {
+
+class MDIForm1;
+
+/// A menu of the main frame, or an item of one. Names and captions are UTF-8; the captions are the
+/// ones of design time, which the language file replaces by the caption of "MDIForm1." and the
+/// name.
+struct MenuItem {
+    std::string_view parent; // empty: stands in the menu bar
+    std::string_view name;   // object name
+    std::string_view caption;
+    void (*command)(MDIForm1&) = nullptr; // none: the item is a menu
+    std::string_view shortcut = {};
+    bool checkable = false;
+    bool after_separator = false;
+};
+
+/// All menus and items in their order; a menu stands before its items.
+std::span<const MenuItem> menu_items();
+
+} // namespace shell

@@ -1,0 +1,54 @@
+#include "shell/termination.h"
+
+#include <utility>
+
+#ifdef Q_OS_UNIX
+
+#include <QSocketNotifier>
+
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace shell {
+
+namespace {
+
+constexpr int signal_status = 128; // what a shell adds to a signal's number
+
+/// The only thing that a signal handler can reach: the writing end of a pipe.
+int pipe_end = -1;
+
+extern "C" void forward_signal(int number) {
+    const auto byte = static_cast<unsigned char>(number);
+    // Nothing is left to do where even this fails.
+    [[maybe_unused]] const auto written = ::write(pipe_end, &byte, 1);
+}
+
+} // namespace
+
+Termination::Termination(std::function<void(int)> requested) {
+    int ends[2] = {-1, -1};
+    if (::pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0)
+        return;
+    pipe_end = ends[1];
+    auto* notifier = new QSocketNotifier(ends[0], QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this,
+            [end = ends[0], requested = std::move(requested)] {
+                unsigned char number = 0;
+                if (::read(end, &number, 1) == 1)
+                    requested(signal_status + number);
+            });
+    for (const int number : {SIGTERM, SIGINT, SIGHUP})
+        std::signal(number, forward_signal);
+}
+
+} // namespace shell
+
+#else
+
+namespace shell {
+Termination::Termination(std::function<void(int)>) {}
+} // namespace shell
+
+#endif

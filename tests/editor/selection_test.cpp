@@ -1,0 +1,97 @@
+#include "data/run_time_error.h"
+#include "editor/selection.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace {
+
+using editor::Selection;
+
+std::vector<int> selected(const Selection& selection) {
+    return {selection.provinces().begin(), selection.provinces().end()};
+}
+
+TEST(SelectionText, WhatItSelects) {
+    const struct {
+        const char* text;
+        std::vector<int> provinces;
+        bool well_formed = true;
+    } cases[] = {
+        {"", {}},
+        {"5", {5}},
+        {"5;7", {5, 7}},
+        {"5-7", {5, 6, 7}},
+        {"7-5", {}},
+        {";5", {5}, false},
+        {"-5", {5}, false},
+        {"5-", {}},
+        {"5;", {5}},
+        {"1 2", {1}, false},
+        {"12a", {12}, false},
+        {"0", {}},
+        {"0-3", {1, 2, 3}},
+        {"5--7", {}, false},
+        {"--7", {}, false},
+        {"9;3-4;9", {3, 4, 9}},
+        {"5;;6", {5, 6}, false},
+        {"2018", {2018}},
+        {"3-4-9", {3, 4}},
+        {"007", {7}},
+    };
+    for (const auto& each : cases) {
+        Selection selection;
+        selection.apply("1000"); // replaced by whatever follows
+        selection.apply(each.text);
+        EXPECT_EQ(selected(selection), each.provinces) << each.text;
+        EXPECT_EQ(editor::is_well_formed(each.text), each.well_formed) << each.text;
+    }
+}
+
+TEST(SelectionText, IdentifiersAboveTheLastEndTheSelecting) {
+    for (const char* text : {"5;2019;7", "5;2017-99999999999", "5;99999999999999999999999"}) {
+        Selection selection;
+        try {
+            selection.apply(text);
+            FAIL() << text;
+        } catch (const data::RunTimeError& error) {
+            EXPECT_EQ(error.number(), data::ErrorNumber::subscript_out_of_range);
+        }
+        EXPECT_TRUE(selection.contains(5)) << text;
+        EXPECT_FALSE(selection.contains(7)) << text;
+        EXPECT_EQ(selected(selection).front(), 5) << text;
+    }
+    EXPECT_THROW((void)Selection().contains(2019), data::RunTimeError);
+}
+
+TEST(SelectionText, Long) {
+    std::string text;
+    while (text.size() < 1'000'000)
+        text += "1-2018;";
+    Selection selection;
+    selection.apply(text);
+    EXPECT_EQ(selection.provinces().size(), 2018U);
+}
+
+TEST(SelectionText, ClicksAppend) {
+    EXPECT_EQ(editor::with_province("", 9), "9");
+    EXPECT_EQ(editor::with_province("5", 9), "5;9");
+}
+
+TEST(Changement, WritesTheSelectedRowsOnly) {
+    data::ProvinceTable table;
+    Selection selection;
+    changement(table, selection, "x", {1});
+    EXPECT_FALSE(table.has_unsaved_changes());
+    selection.apply("5;7-8");
+    changement(table, selection, "x", {1});
+    int written = 0;
+    for (const auto& cell : table.column({0}))
+        written += cell == "x" ? 1 : 0;
+    EXPECT_EQ(written, 3);
+    EXPECT_EQ(table.cell(7, {0}), "x");
+    EXPECT_EQ(table.cell(7, {1}), "");
+}
+
+} // namespace

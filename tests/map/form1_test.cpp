@@ -1,0 +1,427 @@
+#include "data/run_time_error.h"
+#include "map/bitmaps.h"
+#include "map/form1.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPaintEvent>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+using map::Mode;
+
+constexpr int width = 900;
+constexpr int height = 700;
+constexpr int cell = 100; // pixels; provinces are squares, 1 to 9 in the first row
+constexpr QRgb paper = 0xFFE0D0C0;
+
+int province_at(int x, int y) {
+    return y / cell * (width / cell) + x / cell + 1;
+}
+
+std::string id_map(int foreign_x = -1, int foreign_y = -1) {
+    return bitmaps::painted(width, height, [=](int x, int y) {
+        const bool foreign = foreign_x == x && foreign_y == y;
+        return bitmaps::colour_of(foreign ? 3000 : province_at(x, y));
+    });
+}
+
+std::string plain_map(QRgb colour = paper, int map_width = width) {
+    return bitmaps::painted(map_width, height, [=](int, int) { return colour & 0xFFFFFF; });
+}
+
+/// Answers the message box that appears while it lives, and remembers its text.
+class BoxReader {
+  public:
+    BoxReader() {
+        QObject::connect(&timer_, &QTimer::timeout, [this] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr)
+                return;
+            texts.push_back(box->text().toStdString());
+            QTest::keyClick(box, Qt::Key_Return);
+        });
+        timer_.start(5);
+    }
+    std::vector<std::string> texts;
+
+  private:
+    QTimer timer_;
+};
+
+class Form1 : public testing::Test {
+  protected:
+    Form1() {
+        static const std::string plain = plain_map();
+        static const std::string provinces = id_map();
+        session.maps.map_1_path = folder.write("1.bmp", plain);
+        session.maps.id_map_path = folder.write("id.bmp", provinces);
+    }
+
+    /// Opens the maps in a window of the given size.
+    void open(QSize size = {width, height}) {
+        form = std::make_unique<map::Form1>(session);
+        QObject::connect(form.get(), &map::Form1::province_clicked, [this](int province, bool add) {
+            clicked += (add ? "+" : "") + std::to_string(province) + " ";
+        });
+        form->resize(size);
+        form->show();
+        QCoreApplication::processEvents();
+    }
+    QWidget* surface(const char* name = "Picture1") const {
+        return form->findChild<QWidget*>(QString::fromLatin1(name));
+    }
+    QImage seen(const char* name = "Picture1") const {
+        return surface(name)->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    }
+    void click(QPoint point, Qt::MouseButton button = Qt::LeftButton,
+               Qt::KeyboardModifiers keys = {}) {
+        QTest::mouseClick(surface(), button, keys, point);
+    }
+    std::string city(int province) const {
+        return session.provinces.cell(province, data::TableColumn{27}) + "," +
+               session.provinces.cell(province, data::TableColumn{28});
+    }
+    QPoint corner() const { return -surface()->mapTo(form.get(), QPoint(0, 0)); }
+
+    bitmaps::Folder folder;
+    shell::Session session;
+    std::unique_ptr<map::Form1> form;
+    std::string clicked;
+};
+
+TEST_F(Form1, ShowsOneOfTheMaps) {
+    session.maps.map_2_path = folder.write("2.bmp", plain_map(0xFF112233));
+    session.port_placement.stage = 1;
+    open();
+    EXPECT_EQ(session.port_placement.stage, 0);
+    EXPECT_EQ(form->sizeHint(), QSize(width, height));
+    EXPECT_TRUE(form->has_map_2());
+    struct Row {
+        map::Shown which;
+        const char* name;
+        QRgb colour;
+    };
+    for (const Row row : {Row{map::Shown::map_2, "Picture2", 0xFF112233},
+                          Row{map::Shown::id_map, "Picture_id", 0xFF800000},
+                          Row{map::Shown::map_1, "Picture1", paper}}) {
+        form->show_map(row.which);
+        for (const char* name : {"Picture1", "Picture2", "Picture_id"})
+            EXPECT_EQ(surface(name)->isVisible(), std::string(name) == row.name) << name;
+        EXPECT_EQ(seen(row.name).pixel(50, 50), row.colour);
+        EXPECT_EQ(form->grab().toImage().pixel(50, 50), row.colour);
+        clicked.clear();
+        QTest::mouseClick(surface(row.name), Qt::LeftButton, {}, {450, 350});
+        EXPECT_EQ(clicked, "32 ") << row.name;
+    }
+}
+
+TEST_F(Form1, WithoutMap2ItCannotBeChosen) {
+    open();
+    EXPECT_FALSE(form->has_map_2());
+    form->show_map(map::Shown::map_2);
+    EXPECT_TRUE(surface()->isVisible());
+}
+
+TEST_F(Form1, UnreadableImageIsAnError) {
+    for (std::string map::Maps::*path :
+         {&map::Maps::map_1_path, &map::Maps::map_2_path, &map::Maps::id_map_path}) {
+        shell::Session broken;
+        broken.maps = session.maps;
+        broken.maps.*path = folder.path("absent.bmp");
+        EXPECT_THROW(map::Form1{broken}, data::RunTimeError);
+    }
+}
+
+TEST_F(Form1, ClickSelects) {
+    struct Row {
+        Qt::MouseButton button = Qt::NoButton;
+        Qt::KeyboardModifiers keys;
+        const char* clicked = "";
+    };
+    const Row rows[] = {
+        {Qt::LeftButton, Qt::NoModifier, "14 "},
+        {Qt::RightButton, Qt::NoModifier, "14 "},
+        {Qt::MiddleButton, Qt::NoModifier, "14 "},
+        {Qt::LeftButton, Qt::ControlModifier, "+14 "},
+        {Qt::LeftButton, Qt::ShiftModifier, ""},
+        {Qt::LeftButton, Qt::AltModifier, ""},
+        {Qt::LeftButton, Qt::ControlModifier | Qt::ShiftModifier, ""},
+        {Qt::LeftButton, Qt::ControlModifier | Qt::AltModifier, ""},
+    };
+    open();
+    for (const auto& row : rows) {
+        clicked.clear();
+        click({450, 150}, row.button, row.keys);
+        EXPECT_EQ(clicked, row.clicked);
+    }
+    EXPECT_FALSE(session.provinces.has_unsaved_changes());
+}
+
+TEST_F(Form1, MoveNamesTheProvinceWhileNoButtonIsHeld) {
+    session.maps.map_1_path = folder.write("1.bmp", plain_map(paper, width + 50));
+    open({width + 50, height});
+    QSignalSpy pointed(form.get(), &map::Form1::pointed);
+    QTest::mouseMove(surface(), {250, 50});
+    ASSERT_EQ(pointed.count(), 1);
+    EXPECT_EQ(pointed.takeFirst().at(0).toInt(), 3);
+    QTest::mousePress(surface(), Qt::LeftButton, {}, {250, 50});
+    QTest::mouseMove(surface(), {350, 50});
+    EXPECT_EQ(pointed.count(), 0) << "a button is held";
+    QTest::mouseRelease(surface(), Qt::LeftButton, {}, {width + 10, 50});
+    EXPECT_EQ(clicked, "") << "released outside the ID map";
+    QTest::mouseMove(surface(), {width + 20, 50});
+    EXPECT_EQ(pointed.count(), 0) << "outside the ID map";
+}
+
+TEST_F(Form1, EntersThePressForTheProvinceOfTheRelease) {
+    session.mode = Mode::ville;
+    session.maps.x_offset = 10.25;
+    session.maps.y_offset = 5;
+    open();
+    QSignalSpy changed(form.get(), &map::Form1::positions_changed);
+    QTest::mousePress(surface(), Qt::LeftButton, {}, {120, 45});
+    QTest::mouseRelease(surface(), Qt::LeftButton, {}, {250, 50});
+    EXPECT_EQ(city(3), "130.25,50");
+    EXPECT_EQ(city(2), ",");
+    EXPECT_EQ(changed.count(), 1);
+    EXPECT_EQ(clicked, "");
+    click({250, 50}, Qt::MiddleButton);
+    EXPECT_EQ(changed.count(), 1);
+    click({250, 50}, Qt::RightButton);
+    EXPECT_EQ(city(3), "-1,-1");
+    click({310, 50});
+    QTest::mouseDClick(surface(), Qt::LeftButton, {}, {320, 60});
+    QTest::mouseRelease(surface(), Qt::LeftButton, {}, {320, 60});
+    EXPECT_EQ(city(4), "330.25,65");
+}
+
+TEST_F(Form1, RoundsTheYOfThePress) {
+    session.mode = Mode::ville;
+    open();
+    for (const auto& [y, stored] : {std::pair(10.5, "20.5,10"), std::pair(11.5, "20.5,12")}) {
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            const QPointF point(20.5, y);
+            QMouseEvent event(type, point, surface()->mapToGlobal(point), Qt::LeftButton,
+                              type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                              Qt::NoModifier);
+            QCoreApplication::sendEvent(surface(), &event);
+        }
+        EXPECT_EQ(city(1), stored);
+    }
+}
+
+TEST_F(Form1, MarksWhereThingsStand) {
+    session.mode = Mode::ville;
+    open();
+    click({350, 250});
+    const QImage with_city = seen();
+    EXPECT_NE(with_city.pixel(350, 250), paper);
+    session.mode = Mode::armees;
+    form->mode_changed();
+    EXPECT_EQ(seen().pixel(350, 250), paper);
+}
+
+/// Collects what a widget paints.
+class PaintedRegion : public QObject {
+  public:
+    explicit PaintedRegion(QWidget* widget) { widget->installEventFilter(this); }
+    QRegion region;
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint)
+            region |= static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+};
+
+TEST_F(Form1, RepaintsOnlyWhatThePointedProvinceChanges) {
+    session.mode = Mode::ville;
+    open();
+    click({350, 250}); // province 22
+    click({850, 650}); // province 63
+    QTest::mouseMove(surface(), {10, 10});
+    QCoreApplication::processEvents();
+    const QImage before = seen();
+
+    PaintedRegion painted(surface());
+    QTest::mouseMove(surface(), {310, 210});
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(painted.region.contains(QPoint(350, 250)));
+    EXPECT_LT(painted.region.boundingRect().width(), 100);
+    EXPECT_NE(seen().pixel(350, 250), before.pixel(350, 250));
+
+    painted.region = {};
+    QTest::mouseMove(surface(), {810, 610});
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(painted.region.contains(QPoint(350, 250)));
+    EXPECT_TRUE(painted.region.contains(QPoint(850, 650)));
+    EXPECT_FALSE(painted.region.contains(QPoint(600, 450)));
+}
+
+TEST_F(Form1, DotsTheSelection) {
+    open();
+    session.selection.apply("1;12");
+    form->selection_changed();
+    QImage image = seen();
+    for (int y = 0; y < height; y += map::dot_spacing) {
+        for (int x = 0; x < width; x += map::dot_spacing) {
+            const int province = province_at(x, y);
+            ASSERT_EQ(image.pixel(x, y), province == 1 || province == 12 ? 0xFF000000 : paper)
+                << x << ' ' << y;
+        }
+    }
+    EXPECT_EQ(image.pixel(44, 40), 0xFF000000) << "ten pixels wide";
+    EXPECT_EQ(image.pixel(46, 40), paper);
+    EXPECT_NE(image.pixel(44, 44), 0xFF000000) << "round";
+
+    // A view that cuts dots in two is painted as the whole is.
+    const QRect part(33, 27, 71, 44);
+    QImage cut(part.size(), QImage::Format_RGB32);
+    surface()->render(&cut, {}, part, {});
+    EXPECT_EQ(cut, image.copy(part));
+
+    form->show_map(map::Shown::id_map);
+    EXPECT_EQ(seen("Picture_id").pixel(20, 20), 0xFF000000);
+    session.mode = Mode::ville;
+    form->mode_changed();
+    EXPECT_EQ(seen("Picture_id").pixel(20, 20), 0xFF800000) << "in normal mode only";
+    session.mode = Mode::normal;
+    form->mode_changed();
+    EXPECT_EQ(seen("Picture_id").pixel(20, 20), 0xFF000000);
+}
+
+TEST_F(Form1, ForeignColourAtAPointOfTheGridIsReportedOnce) {
+    folder.write("id.bmp", id_map(40, 60));
+    BoxReader boxes;
+    session.selection.apply("1");
+    open();
+    QTest::qWait(50);
+    ASSERT_EQ(boxes.texts.size(), 1U);
+    EXPECT_NE(boxes.texts[0].find("point (40, 60), colour #506070, province 3000"),
+              std::string::npos)
+        << boxes.texts[0];
+    EXPECT_EQ(seen().pixel(40, 60), paper);
+    EXPECT_EQ(seen().pixel(60, 60), 0xFF000000) << "the other dots are there";
+    form->selection_changed();
+    QTest::qWait(50);
+    EXPECT_EQ(boxes.texts.size(), 1U);
+}
+
+TEST_F(Form1, ForeignColourUnderAClickEndsTheClickOnly) {
+    folder.write("id.bmp", id_map(41, 61));
+    open();
+    BoxReader boxes;
+    click({41, 61});
+    EXPECT_EQ(boxes.texts.size(), 1U);
+    session.mode = Mode::ville;
+    click({41, 61});
+    ASSERT_EQ(boxes.texts.size(), 2U);
+    EXPECT_NE(boxes.texts[1].find("point (41, 61)"), std::string::npos) << boxes.texts[1];
+    EXPECT_FALSE(session.provinces.has_unsaved_changes());
+    click({42, 61});
+    EXPECT_EQ(city(1), "42,61");
+    session.mode = Mode::normal;
+    click({41, 61}, Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_EQ(boxes.texts.size(), 2U) << "nothing was to be done";
+    EXPECT_EQ(clicked, "");
+}
+
+TEST_F(Form1, OverflowOfYIsAnError) {
+    session.mode = Mode::ville;
+    session.maps.y_offset = 32700;
+    open();
+    click({10, 67});
+    EXPECT_EQ(city(1), "10,32767");
+    EXPECT_THROW(click({10, 68}), data::RunTimeError);
+    EXPECT_EQ(city(1), "10,32767");
+}
+
+TEST_F(Form1, ScrollsByWheelAndKeyboard) {
+    open({400, 300});
+    EXPECT_EQ(corner(), QPoint(0, 0));
+    const QPointF point(50, 50);
+    QWheelEvent wheel(point, surface()->mapToGlobal(point), {}, {0, -120}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&wheel); // else it stays with the surface
+    QApplication::instance()->notify(surface(), &wheel);
+    EXPECT_EQ(corner().x(), 0);
+    EXPECT_GT(corner().y(), 20);
+
+    click({50, 150});
+    struct Row {
+        Qt::Key key;
+        QPoint way; // sign of the movement
+    };
+    for (const Row row : {Row{Qt::Key_Down, {0, 1}}, Row{Qt::Key_Right, {1, 0}},
+                          Row{Qt::Key_Up, {0, -1}}, Row{Qt::Key_Left, {-1, 0}},
+                          Row{Qt::Key_PageDown, {0, 1}}, Row{Qt::Key_PageUp, {0, -1}}}) {
+        const QPoint before = corner();
+        QTest::keyClick(QApplication::focusWidget(), row.key);
+        const QPoint moved = corner() - before;
+        const auto sign = [](int way) { return (way > 0) - (way < 0); };
+        EXPECT_EQ(QPoint(sign(moved.x()), sign(moved.y())), row.way) << row.key;
+    }
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
+    EXPECT_GT(corner().x(), width - 400);
+    EXPECT_GT(corner().y(), height - 300);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Home);
+    EXPECT_EQ(corner(), QPoint(0, 0));
+}
+
+TEST_F(Form1, MiddleDragScrollsAndIsNoClick) {
+    open({400, 300});
+    QTest::mousePress(surface(), Qt::MiddleButton, {}, {200, 150});
+    QTest::mouseMove(surface(), {150, 130});
+    EXPECT_EQ(corner(), QPoint(50, 20));
+    QTest::mouseMove(surface(), {200, 150}); // the map has moved on below the pointer
+    EXPECT_EQ(corner(), QPoint(50, 20)) << "the pointer is where it was on the screen";
+    QTest::mouseRelease(surface(), Qt::MiddleButton, {}, {200, 150});
+    EXPECT_EQ(clicked, "");
+    click({250, 150}, Qt::MiddleButton);
+    EXPECT_EQ(clicked, "12 ") << "a middle click without dragging is a click";
+}
+
+TEST_F(Form1, PressTakesTheFocus) {
+    open();
+    QLineEdit other(form.get());
+    other.show();
+    other.setFocus();
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(other.hasFocus());
+    bool focused_before_click = false;
+    QObject::connect(form.get(), &map::Form1::province_clicked,
+                     [&] { focused_before_click = !other.hasFocus(); });
+    click({450, 350}, Qt::RightButton);
+    EXPECT_TRUE(focused_before_click);
+    EXPECT_TRUE(surface()->hasFocus());
+}
+
+TEST_F(Form1, SurvivesItsFiles) {
+    open();
+    ASSERT_TRUE(QFile::remove(folder.native("1.bmp")));
+    ASSERT_TRUE(QFile::remove(folder.native("id.bmp")));
+    EXPECT_EQ(seen().pixel(450, 350), 0xFF808080);
+    click({450, 350});
+    EXPECT_EQ(clicked, "");
+    session.selection.apply("1");
+    form->selection_changed();
+    EXPECT_EQ(seen().pixel(0, 0), 0xFF808080);
+    folder.write("id.bmp", id_map());
+    click({450, 350});
+    EXPECT_EQ(clicked, "32 ");
+}
+
+} // namespace
