@@ -101,6 +101,11 @@ QRect outline_place(const QRect& picture) {
     return picture.adjusted(-outline_width, -outline_width, outline_width, outline_width);
 }
 
+/// Returns all that may be painted for a thing with that picture and label.
+QRect extent(const QRect& picture, const QImage& label) {
+    return outline_place(picture) | label_place(picture, label);
+}
+
 void draw_outline(QPainter& painter, const QRect& picture, QColor colour) {
     const QRect outer = outline_place(picture);
     painter.setBrush(Qt::NoBrush);
@@ -156,8 +161,7 @@ QRect OverlayPreview::bounds(int province) const {
     for (const auto& position :
          positions_of(session_.provinces, session_.mode, session_.maps, province)) {
         const Look look = look_of(position);
-        const QRect picture = place(*look.image, look.origin, position);
-        covered |= outline_place(picture) | label_place(picture, label_of(province));
+        covered |= extent(place(*look.image, look.origin, position), label_of(province));
     }
     return covered;
 }
@@ -199,34 +203,32 @@ const Bitmap& OverlayPreview::terrain_art(const std::string& file) const {
                                 1);
 }
 
-/// Returns what the largest picture of the mode with all that belongs to it covers around a
-/// position at (0, 0).
+/// Returns what the largest thing of the mode covers around a position at (0, 0).
 QRect OverlayPreview::largest_extent() const {
     const StoredPosition zero{0, PositionColumns::no_drawing, 0, 0};
-    QRect extent = place(marker_, marker_origin, zero);
     if (const auto kind = sprite_kind(session_.mode)) {
         const Look sprite = sprite_look(*kind);
-        extent |= place(*sprite.image, sprite.origin, zero);
-    } else if (session_.graphics.shows_drawings) {
+        return extent(place(*sprite.image, sprite.origin, zero), label(largest_shown_id));
+    }
+    QRect largest = place(marker_, marker_origin, zero);
+    if (session_.graphics.shows_drawings) {
         for (const auto type : gfx::terrain_types) {
             for (int variant = 0; variant < gfx::terrain_variants; ++variant) {
                 const QImage& art = terrain_art(gfx::terrain_art_file(type, variant)).image;
-                extent |= place(art, {art.width() / 2, art.height() / 2}, zero);
+                largest |= place(art, {art.width() / 2, art.height() / 2}, zero);
             }
         }
     }
-    if (session_.mode == Mode::port)
-        extent |= label_place(extent, label(largest_shown_id));
-    return outline_place(extent);
+    return outline_place(largest);
 }
 
 /// Returns where the positions lie whose things reach into the rectangle.
 Area OverlayPreview::area_reaching_into(const QRect& exposed) const {
-    const QRect extent = largest_extent();
-    return {static_cast<double>(exposed.left()) - extent.right(),
-            static_cast<double>(exposed.top()) - extent.bottom(),
-            static_cast<double>(exposed.right()) - extent.left() + 1,
-            static_cast<double>(exposed.bottom()) - extent.top() + 1};
+    const QRect largest = largest_extent();
+    return {static_cast<double>(exposed.left()) - largest.right(),
+            static_cast<double>(exposed.top()) - largest.bottom(),
+            static_cast<double>(exposed.right()) - largest.left() + 1,
+            static_cast<double>(exposed.bottom()) - largest.top() + 1};
 }
 
 /// Returns the id of the sea that the province's port opens to; null without one, and in every

@@ -261,7 +261,7 @@ TEST_F(Form1, RepaintsOnlyWhatThePointedProvinceChanges) {
     QCoreApplication::processEvents();
     EXPECT_TRUE(painted.region.contains(QPoint(350, 250)));
     EXPECT_LT(painted.region.boundingRect().width(), 100);
-    EXPECT_NE(seen().pixel(350, 250), before.pixel(350, 250));
+    EXPECT_NE(seen(), before);
 
     painted.region = {};
     QTest::mouseMove(surface(), {810, 610});

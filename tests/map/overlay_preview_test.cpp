@@ -159,16 +159,33 @@ TEST_F(OverlayPreviewTest, EveryModeShowsItsOwnKind) {
     EXPECT_TRUE(covered(painted()).isNull());
 }
 
-TEST_F(OverlayPreviewTest, PicturesOutsideReachIntoTheExposedRectangle) {
-    save(sprite(40, 30, red), "large.bmp");
-    load_sprite(SpriteKind::ville, "large.bmp", 35, 25, 1);
-    place(1, city_x, "60", "50"); // the picture lies at (25, 25)
-    const QImage whole = painted();
-    for (const QRect& strip : {QRect(0, 0, 26, 27), QRect(64, 54, 30, 20), QRect(30, 30, 5, 5),
-                               QRect(64, 0, 1, 80), QRect(0, 54, 100, 1)}) {
-        const QRect expected = covered(whole) & strip;
-        ASSERT_FALSE(expected.isEmpty());
-        EXPECT_EQ(covered(painted(strip)), expected);
+TEST_F(OverlayPreviewTest, PaintingInTilesIsPaintingAtOnce) {
+    save(sprite(30, 20, red), "port.bmp");
+    save(sprite(50, 31, green), "marsh2.bmp");
+    set(1, adjacency, "1999");
+    set(1, terrain, "4");
+    set(1, {40}, "2");
+    for (const Mode mode : {Mode::port, Mode::dessin}) {
+        session.mode = mode;
+        for (const std::int16_t origin :
+             std::initializer_list<std::int16_t>{-30, 5, 60}) { // outside of the picture, too
+            load_sprite(SpriteKind::port, "port.bmp", origin, origin, 1);
+            place(1, port_x, "50", "40");
+            place(1, drawing_1_x, "50", "40");
+            const QImage whole = painted(QRect({0, 0}, view), 1);
+            QImage tiled(view, QImage::Format_RGB32);
+            QPainter painter(&tiled);
+            constexpr int step = 5;
+            for (int y = 0; y < view.height(); y += step) {
+                for (int x = 0; x < view.width(); x += step) {
+                    const QRect tile(x, y, step, step);
+                    painter.drawImage(tile, painted(tile, 1), tile);
+                }
+            }
+            painter.end();
+            EXPECT_FALSE(covered(whole).isEmpty());
+            EXPECT_EQ(tiled, whole) << origin;
+        }
     }
 }
 
