@@ -1,4 +1,5 @@
 #include "data/run_time_error.h"
+#include "leaks.h"
 #include "map/bitmaps.h"
 #include "map/form1.h"
 
@@ -259,9 +260,10 @@ TEST_F(Form1, RepaintsOnlyWhatThePointedProvinceChanges) {
     PaintedRegion painted(surface());
     QTest::mouseMove(surface(), {310, 210});
     QCoreApplication::processEvents();
+    const QRect changed = painted.region.boundingRect();
     EXPECT_TRUE(painted.region.contains(QPoint(350, 250)));
-    EXPECT_LT(painted.region.boundingRect().width(), 100);
-    EXPECT_NE(seen().pixel(350, 250), before.pixel(350, 250));
+    EXPECT_LT(changed.width(), 100);
+    EXPECT_NE(seen().copy(changed), before.copy(changed));
 
     painted.region = {};
     QTest::mouseMove(surface(), {810, 610});
@@ -340,6 +342,7 @@ TEST_F(Form1, ForeignColourUnderAClickEndsTheClickOnly) {
 }
 
 TEST_F(Form1, OverflowOfYIsAnError) {
+    const LeaksExpected leaks;
     session.mode = Mode::ville;
     session.maps.y_offset = 32700;
     open();
