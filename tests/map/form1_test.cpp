@@ -285,9 +285,11 @@ TEST_F(Form1, DotsTheSelection) {
                 << x << ' ' << y;
         }
     }
-    EXPECT_EQ(image.pixel(44, 40), 0xFF000000) << "ten pixels wide";
-    EXPECT_EQ(image.pixel(46, 40), paper);
-    EXPECT_NE(image.pixel(44, 44), 0xFF000000) << "round";
+    for (const QPoint edge : {QPoint(-5, 0), QPoint(4, 0), QPoint(0, -5), QPoint(0, 4)}) {
+        EXPECT_EQ(image.pixel(QPoint(40, 40) + edge), 0xFF000000) << "ten pixels wide and high";
+        EXPECT_EQ(image.pixel(QPoint(40, 40) + edge * 3 / 2), paper);
+    }
+    EXPECT_EQ(image.pixel(44, 44), paper) << "round";
 
     // A view that cuts dots in two is painted as the whole is.
     const QRect part(33, 27, 71, 44);
