@@ -102,9 +102,7 @@ int run(shell::Application& application, shell::Session& session, const shell::C
     return QApplication::exec();
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+int start(int& argc, char** argv) {
     const bool is_seen = has_display();
     if (!is_seen)
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -126,6 +124,17 @@ int main(int argc, char** argv) {
         return run(application, session, line);
     } catch (const std::exception& error) {
         application.fail(error);
+        return EXIT_FAILURE;
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return start(argc, argv);
+    } catch (const std::exception& error) {
+        std::fputs(error.what(), stderr);
         return EXIT_FAILURE;
     }
 }
