@@ -1,6 +1,7 @@
 #include "data/run_time_error.h"
 #include "dialog_driver.h"
 #include "gfx/form3.h"
+#include "leaks.h"
 #include "shell/session.h"
 #include "shell/stored_path.h"
 
@@ -221,6 +222,7 @@ TEST_F(Form3Test, TakingOutOfAnEmptyListOnlyLowersTheFilesCount) {
 }
 
 TEST_F(Form3Test, TakingOutWithNothingSelectedFails) {
+    const LeaksExpected leaks;
     run([&](gfx::Form3& form) {
         select(form, "File1", "one.spr");
         add(form, "entre_ville", "x");
