@@ -21,13 +21,11 @@ class BitmapCache {
   public:
     /// Returns the first of the frames that the bitmap with that stored path holds side by side.
     /// The colour of its top left pixel is transparent. Fewer than one frame are one; a frame is at
-    /// least one pixel wide. The reference stays valid until `forget`. Never throws.
+    /// least one pixel wide. The reference stays valid. Never throws.
     const Bitmap& first_frame(const std::string& path, int frames);
 
     /// Makes each bitmap's file be looked at again, once, for changes.
     void expect_changes() { ++round_; }
-
-    void forget() { kept_.clear(); }
 
   private:
     struct Kept {

@@ -205,11 +205,9 @@ void Form1::select(int province, ShiftState shift) {
 void Form1::enter_position(const QMouseEvent& event, int province) {
     const Click click{button_of(event.button()), shift_state(event.modifiers()), pressed_.x(),
                       data::to_int16(pressed_.y(), "Y of the press on the map"), province};
-    if (!map::enter_position(session_.mode, click, session_.maps, session_.port_placement,
-                             session_.provinces))
-        return;
-    refresh();
-    emit positions_changed();
+    if (map::enter_position(session_.mode, click, session_.maps, session_.port_placement,
+                            session_.provinces))
+        refresh();
 }
 
 void Form1::point_at(int province) {

@@ -50,8 +50,6 @@ class Form1 : public QWidget {
     void pointed(int province);
     /// The province was clicked in normal mode: to be added to the selection, or to replace it.
     void province_clicked(int province, bool add);
-    /// A click in a position-entry mode wrote positions, and the maps are redrawn.
-    void positions_changed();
     /// The preview could not show something.
     void problem(const QString& text);
 

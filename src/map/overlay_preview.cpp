@@ -121,11 +121,6 @@ void draw_outline(QPainter& painter, const QRect& picture, QColor colour) {
 OverlayPreview::OverlayPreview(const shell::Session& session)
     : session_(session), marker_(draw_marker()) {}
 
-void OverlayPreview::forget_bitmaps() {
-    bitmaps_.forget();
-    reported_.clear();
-}
-
 void OverlayPreview::paint(QPainter& painter, const QRect& exposed, int pointed_province) {
     if (session_.mode == Mode::normal)
         return;

@@ -32,9 +32,6 @@ class OverlayPreview {
     /// Returns what painting the province's things covers, in pixels of the map; empty for none.
     QRect bounds(int province) const;
 
-    /// Forgets what was read from files, and which problems were reported.
-    void forget_bitmaps();
-
     /// Receives why a marker stands for a picture, in the user's terms; every reason once.
     std::function<void(QString)> on_problem;
 

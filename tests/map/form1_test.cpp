@@ -191,15 +191,13 @@ TEST_F(Form1, EntersThePressForTheProvinceOfTheRelease) {
     session.maps.x_offset = 10.25;
     session.maps.y_offset = 5;
     open();
-    QSignalSpy changed(form.get(), &map::Form1::positions_changed);
     QTest::mousePress(surface(), Qt::LeftButton, {}, {120, 45});
     QTest::mouseRelease(surface(), Qt::LeftButton, {}, {250, 50});
     EXPECT_EQ(city(3), "130.25,50");
     EXPECT_EQ(city(2), ",");
-    EXPECT_EQ(changed.count(), 1);
     EXPECT_EQ(clicked, "");
     click({250, 50}, Qt::MiddleButton);
-    EXPECT_EQ(changed.count(), 1);
+    EXPECT_EQ(city(3), "130.25,50");
     click({250, 50}, Qt::RightButton);
     EXPECT_EQ(city(3), "-1,-1");
     click({310, 50});
