@@ -118,8 +118,9 @@ void Panneau::show_selection() {
 }
 
 void Panneau::write_typed_text() {
+    // The field may be without the focus: while another program is used, no control has it.
     for (const auto& entry : entries_) {
-        if (entry.field->hasFocus() && entry.field->isModified())
+        if (entry.field->isModified())
             entry.store();
     }
 }

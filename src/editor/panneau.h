@@ -33,7 +33,7 @@ class Panneau : public QWidget {
     /// Shows the selected provinces' values in all controls.
     void show_selection();
 
-    /// Writes a text that was typed into a field which still has the keyboard focus.
+    /// Writes a text that was typed into a field which was not left since.
     void write_typed_text();
 
   signals:
