@@ -141,14 +141,14 @@ class RandomPlace {
 void open_three_maps(benchmark::State& state) {
     const auto session = session_with_maps();
     shown_window(*session);
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         shown_window(*session);
 }
 BENCHMARK(open_three_maps)->Unit(benchmark::kMillisecond);
 
 void memory_of_three_maps(benchmark::State& state) {
     const auto session = session_with_maps();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const double before = memory();
         const auto window = shown_window(*session);
         for (const auto shown : {map::Shown::map_2, map::Shown::id_map, map::Shown::map_1}) {
@@ -177,7 +177,7 @@ void paint_a_random_place(benchmark::State& state, const char* selection, map::M
     const auto window = shown_window(*session);
     auto* area = window->findChild<QScrollArea*>();
     RandomPlace place;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const QPoint corner = place.next();
         area->horizontalScrollBar()->setValue(corner.x());
         area->verticalScrollBar()->setValue(corner.y());
@@ -194,7 +194,7 @@ BENCHMARK_CAPTURE(paint_a_random_place, city_markers, "", map::Mode::ville)
 void province_under_the_pointer(benchmark::State& state) {
     const map::MapImage image(world().maps().id_map_path);
     RandomPlace place;
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(map::province_of(image.colour_at(place.next()).value_or(0)));
 }
 BENCHMARK(province_under_the_pointer)->Unit(benchmark::kMicrosecond);
@@ -203,7 +203,7 @@ void dots_of_all_provinces(benchmark::State& state) {
     const map::MapImage image(world().maps().id_map_path);
     editor::Selection selection;
     selection.apply("1-2018");
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         map::MapReader reader(image);
         const map::SelectionDots dots(map_width, map_height, selection,
                                       [&reader](int y, std::span<map::Pixel> pixels) {
@@ -230,7 +230,7 @@ void click_to_dots_painted(benchmark::State& state) {
     });
     QWidget* surface = shown_surface(*window);
     RandomPlace place;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const QPoint point(place.next().x() % view.width(), 500);
         send(surface, QEvent::MouseButtonPress, point, Qt::LeftButton);
         send(surface, QEvent::MouseButtonRelease, point, Qt::NoButton);

@@ -40,8 +40,8 @@ bool has_display() {
 
 /// Tells on standard error how much of the province file was understood, and why nothing was.
 void report(const std::string& path, const data::ReadReport& read) {
-    std::cerr << shell::to_qstring(shell::shown_path(path)).toStdString() << ": " << read.provinces
-              << " provinces read";
+    std::cerr << shell::to_qstring(shell::shown_path(path)).toStdString()
+              << ": provinces read: " << read.provinces;
     if (read.provinces == 0 && read.lines == 0)
         std::cerr << ": the file is empty";
     else if (read.provinces == 0 && !read.has_carriage_return)
@@ -102,9 +102,7 @@ int run(shell::Application& application, shell::Session& session, const shell::C
     return QApplication::exec();
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+int start(int& argc, char** argv) {
     const bool is_seen = has_display();
     if (!is_seen)
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -126,6 +124,17 @@ int main(int argc, char** argv) {
         return run(application, session, line);
     } catch (const std::exception& error) {
         application.fail(error);
+        return EXIT_FAILURE;
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return start(argc, argv);
+    } catch (const std::exception& error) {
+        std::fputs(error.what(), stderr);
         return EXIT_FAILURE;
     }
 }

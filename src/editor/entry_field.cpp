@@ -34,6 +34,7 @@ EntryField::EntryField(QWidget* parent) : QLineEdit(parent) {
 void EntryField::show_bytes(const std::string& bytes) {
     setText(shell::to_qstring(bytes));
     setCursorPosition(0);
+    shown_is_current_ = true;
 }
 
 std::string EntryField::bytes() const {
@@ -42,7 +43,7 @@ std::string EntryField::bytes() const {
 
 void EntryField::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    if (leaves(*this, event->reason()))
+    if (leaves(*this, event->reason()) && (shown_is_current_ || isModified()))
         emit left();
 }
 

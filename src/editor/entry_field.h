@@ -17,12 +17,19 @@ class EntryField : public QLineEdit {
     void show_bytes(const std::string& bytes);
     std::string bytes() const;
 
+    /// Tells the field that the table no longer holds what it shows: leaving it untouched is to
+    /// write nothing then, until it shows bytes again.
+    void forget_shown() { shown_is_current_ = false; }
+
   signals:
     void entered(); ///< Enter was pressed.
     void left();    ///< The keyboard focus moved to another control or window of the program.
 
   protected:
     void focusOutEvent(QFocusEvent* event) override;
+
+  private:
+    bool shown_is_current_ = true;
 };
 
 } // namespace editor

@@ -117,6 +117,11 @@ void Panneau::show_selection() {
     }
 }
 
+void Panneau::forget_shown() {
+    for (const auto& entry : entries_)
+        entry.field->forget_shown();
+}
+
 void Panneau::write_typed_text() {
     // The field may be without the focus: while another program is used, no control has it.
     for (const auto& entry : entries_) {

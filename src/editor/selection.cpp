@@ -27,12 +27,15 @@ bool Selection::contains(int province) const {
 }
 
 void Selection::mark(double first, double last) {
-    for (double identifier = first; identifier <= last; ++identifier) {
-        if (identifier > data::last_province)
-            throw_no_such_province(identifier);
-        if (identifier != 0)
-            flags_[static_cast<std::size_t>(identifier)] = 1;
-    }
+    if (first > last)
+        return;
+    constexpr double end = data::provinces_rows;
+    const int beyond = static_cast<int>(std::min(last + 1, end));
+    for (int identifier = static_cast<int>(std::clamp(first, 1.0, end)); identifier < beyond;
+         ++identifier)
+        flags_[static_cast<std::size_t>(identifier)] = 1;
+    if (last >= end)
+        throw_no_such_province(std::max(first, end));
 }
 
 void Selection::list_provinces() {

@@ -47,14 +47,15 @@ const Bitmap& BitmapCache::first_frame(const std::string& path, int frames) {
     const bool is_new = kept.looked_at == 0;
     kept.looked_at = round_;
 
-    const QString native = shell::native_path(path);
-    const QFileInfo file(native);
+    if (is_new)
+        kept.native_path = shell::native_path(path);
+    const QFileInfo file(kept.native_path);
     const QDateTime modified = file.lastModified();
     const qint64 size = file.exists() ? file.size() : -1;
     if (is_new || modified != kept.modified || size != kept.size) {
         kept.modified = modified;
         kept.size = size;
-        kept.bitmap = read_first_frame(native, frames);
+        kept.bitmap = read_first_frame(kept.native_path, frames);
     }
     return kept.bitmap;
 }

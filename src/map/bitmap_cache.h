@@ -31,6 +31,7 @@ class BitmapCache {
 
   private:
     struct Kept {
+        QString native_path; // to look for it in another letter case takes a listing of the folder
         Bitmap bitmap;
         QDateTime modified;
         qint64 size = -1; // bytes of the file

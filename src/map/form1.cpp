@@ -44,9 +44,8 @@ QImage dot_image() {
     QImage image(dot_size, dot_size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(Qt::black);
-    painter.drawEllipse(image.rect());
+    painter.setPen(QPen(Qt::black, dot_size, Qt::SolidLine, Qt::RoundCap));
+    painter.drawPoint(QPointF(dot_size, dot_size) / 2);
     return image;
 }
 

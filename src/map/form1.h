@@ -69,8 +69,8 @@ class Form1 : public QWidget {
     /// What the ID map says about a point.
     struct Place {
         QPoint point;
-        Colour colour;
-        int province;
+        Colour colour = 0;
+        int province = 0;
     };
 
     void add_picture(Shown which, const char* name, const MapImage& image);

@@ -73,7 +73,7 @@ MapReader::MapReader(const MapImage& image) : image_(image) {
     file_.setFileName(image.file_name_);
     if (!file_.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return;
-    std::array<char, bitmap_head_size> buffer;
+    std::array<char, bitmap_head_size> buffer = {};
     const qint64 read = file_.read(buffer.data(), buffer.size());
     const std::string_view head(buffer.data(), static_cast<std::size_t>(std::max<qint64>(read, 0)));
     if (head == image.head_) {

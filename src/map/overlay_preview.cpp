@@ -31,6 +31,7 @@ constexpr data::FileColumn climate_column{8};
 constexpr data::FileColumn terrain_column{14};
 
 constexpr QColor pointed_colour(255, 255, 0);
+constexpr QColor label_colour(0, 0, 96);
 constexpr QColor waiting_colour(255, 128, 0);
 
 std::optional<gfx::SpriteKind> sprite_kind(Mode mode) {
@@ -74,23 +75,35 @@ QRect place(const QImage& image, QPoint origin, const StoredPosition& position) 
     return {pixel - origin, image.size()};
 }
 
-QFont label_font() {
+/// Returns the sea's id as it stands beside its port.
+QImage draw_label(int sea) {
+    const QString text = QString::number(sea);
     QFont font;
     font.setPixelSize(label_height - 3);
     font.setBold(true);
-    return font;
+    const int width = QFontMetrics(font).horizontalAdvance(text) + 2 * label_gap;
+    QImage image(width, label_height, QImage::Format_RGB32);
+    image.fill(label_colour);
+    QPainter painter(&image);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(image.rect(), Qt::AlignCenter, text);
+    return image;
 }
 
-QRect label_place(const QRect& picture, const QString& label) {
-    if (label.isEmpty())
-        return {};
-    const int width = QFontMetrics(label_font()).horizontalAdvance(label) + 2 * label_gap;
-    return {picture.right() + 1 + label_gap, picture.center().y() - label_height / 2, width,
-            label_height};
+/// Returns where the label stands beside the picture; empty for a label that is none.
+QRect label_place(const QRect& picture, const QImage& label) {
+    return {{picture.right() + 1 + label_gap, picture.center().y() - label.height() / 2},
+            label.size()};
 }
 
 QRect outline_place(const QRect& picture) {
     return picture.adjusted(-outline_width, -outline_width, outline_width, outline_width);
+}
+
+/// Returns all that may be painted for a thing with that picture and label.
+QRect extent(const QRect& picture, const QImage& label) {
+    return outline_place(picture) | label_place(picture, label);
 }
 
 void draw_outline(QPainter& painter, const QRect& picture, QColor colour) {
@@ -101,12 +114,6 @@ void draw_outline(QPainter& painter, const QRect& picture, QColor colour) {
     painter.setPen(QPen(colour, 1));
     painter.drawRect(outer.adjusted(1, 1, -2, -2));
     painter.drawRect(outer.adjusted(2, 2, -3, -3));
-}
-
-void draw_label(QPainter& painter, const QRect& where, const QString& label) {
-    painter.fillRect(where, QColor(0, 0, 96));
-    painter.setPen(Qt::white);
-    painter.drawText(where, Qt::AlignCenter, label);
 }
 
 } // namespace
@@ -127,7 +134,6 @@ void OverlayPreview::paint(QPainter& painter, const QRect& exposed, int pointed_
     const bool sea_is_awaited = session_.mode == Mode::port && port.stage == 1;
 
     painter.save();
-    painter.setFont(label_font());
     std::vector<std::pair<QRect, QColor>> outlines; // above everything else
     const auto positions =
         positions_in(session_.provinces, session_.mode, session_.maps, area_reaching_into(exposed));
@@ -136,8 +142,8 @@ void OverlayPreview::paint(QPainter& painter, const QRect& exposed, int pointed_
         report(look.problem);
         const QRect picture = place(*look.image, look.origin, position);
         painter.drawImage(picture.topLeft(), *look.image);
-        if (const QString label = label_of(position.province); !label.isEmpty())
-            draw_label(painter, label_place(picture, label), label);
+        if (const QImage label = label_of(position.province); !label.isNull())
+            painter.drawImage(label_place(picture, label).topLeft(), label);
         if (sea_is_awaited && position.province == port.province)
             outlines.emplace_back(picture, waiting_colour);
         else if (position.province == pointed_province)
@@ -155,8 +161,7 @@ QRect OverlayPreview::bounds(int province) const {
     for (const auto& position :
          positions_of(session_.provinces, session_.mode, session_.maps, province)) {
         const Look look = look_of(position);
-        const QRect picture = place(*look.image, look.origin, position);
-        covered |= outline_place(picture) | label_place(picture, label_of(province));
+        covered |= extent(place(*look.image, look.origin, position), label_of(province));
     }
     return covered;
 }
@@ -198,46 +203,51 @@ const Bitmap& OverlayPreview::terrain_art(const std::string& file) const {
                                 1);
 }
 
-/// Returns what the largest picture of the mode with all that belongs to it covers around a
-/// position at (0, 0).
+/// Returns what the largest thing of the mode covers around a position at (0, 0).
 QRect OverlayPreview::largest_extent() const {
     const StoredPosition zero{0, PositionColumns::no_drawing, 0, 0};
-    QRect extent = place(marker_, marker_origin, zero);
     if (const auto kind = sprite_kind(session_.mode)) {
         const Look sprite = sprite_look(*kind);
-        extent |= place(*sprite.image, sprite.origin, zero);
-    } else if (session_.graphics.shows_drawings) {
+        return extent(place(*sprite.image, sprite.origin, zero), label(largest_shown_id));
+    }
+    QRect largest = place(marker_, marker_origin, zero);
+    if (session_.graphics.shows_drawings) {
         for (const auto type : gfx::terrain_types) {
             for (int variant = 0; variant < gfx::terrain_variants; ++variant) {
                 const QImage& art = terrain_art(gfx::terrain_art_file(type, variant)).image;
-                extent |= place(art, {art.width() / 2, art.height() / 2}, zero);
+                largest |= place(art, {art.width() / 2, art.height() / 2}, zero);
             }
         }
     }
-    if (session_.mode == Mode::port)
-        extent |= label_place(extent, QString::number(largest_shown_id));
-    return outline_place(extent);
+    return outline_place(largest);
 }
 
 /// Returns where the positions lie whose things reach into the rectangle.
 Area OverlayPreview::area_reaching_into(const QRect& exposed) const {
-    const QRect extent = largest_extent();
-    return {static_cast<double>(exposed.left()) - extent.right(),
-            static_cast<double>(exposed.top()) - extent.bottom(),
-            static_cast<double>(exposed.right()) - extent.left() + 1,
-            static_cast<double>(exposed.bottom()) - extent.top() + 1};
+    const QRect largest = largest_extent();
+    return {static_cast<double>(exposed.left()) - largest.right(),
+            static_cast<double>(exposed.top()) - largest.bottom(),
+            static_cast<double>(exposed.right()) - largest.left() + 1,
+            static_cast<double>(exposed.bottom()) - largest.top() + 1};
 }
 
-/// Returns the id of the sea that the province's port opens to; empty without one, and in every
+/// Returns the id of the sea that the province's port opens to; null without one, and in every
 /// other mode.
-QString OverlayPreview::label_of(int province) const {
+QImage OverlayPreview::label_of(int province) const {
     if (session_.mode != Mode::port)
         return {};
     const double sea =
         data::leading_number(session_.provinces.cell(province, data::table_column(sea_of_port)));
     if (sea < 1 || sea > largest_shown_id)
         return {};
-    return QString::number(static_cast<int>(sea));
+    return label(static_cast<int>(sea));
+}
+
+QImage OverlayPreview::label(int sea) const {
+    QImage& image = labels_[sea];
+    if (image.isNull())
+        image = draw_label(sea);
+    return image;
 }
 
 void OverlayPreview::report(const QString& problem) {

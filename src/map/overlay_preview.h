@@ -4,6 +4,7 @@
 #include "map/stored_positions.h"
 #include "shell/session.h"
 
+#include <QHash>
 #include <QImage>
 #include <QPoint>
 #include <QRect>
@@ -56,14 +57,16 @@ class OverlayPreview {
 
     QRect largest_extent() const;
     Area area_reaching_into(const QRect& exposed) const;
-    QString label_of(int province) const;
+    QImage label_of(int province) const;
+    QImage label(int sea) const;
     void report(const QString& problem);
 
     static constexpr QPoint marker_origin{6, 6};
 
     const shell::Session& session_;
     QImage marker_;
-    mutable BitmapCache bitmaps_; // what it keeps is what the files hold
+    mutable BitmapCache bitmaps_;       // what it keeps is what the files hold
+    mutable QHash<int, QImage> labels_; // by sea; to write a text costs many times an image
     QSet<QString> reported_;
 };
 

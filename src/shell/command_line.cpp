@@ -7,6 +7,8 @@
 
 #include <QCommandLineParser>
 
+#include <array>
+
 namespace shell {
 
 namespace {
@@ -25,8 +27,10 @@ constexpr Option id_map{"id-map", "FILE", "bitmap whose colours are province ide
 constexpr Option offset{"offset", "X,Y", "where the maps lie in the game's coordinates, in pixels"};
 constexpr Option select_option{"select", "TEXT", "provinces to select, such as 12;15;20-25"};
 constexpr Option screenshot{"screenshot", "FILE", "paint the main frame into a PNG file and end"};
-constexpr const Option* options[] = {&folder, &csv,    &map_1,         &map_2,
-                                     &id_map, &offset, &select_option, &screenshot};
+constexpr Option help{"help", nullptr, "show this text and end"};
+constexpr Option version{"version", nullptr, "show the version and end"};
+constexpr std::array options = {&folder, &csv,           &map_1,      &map_2, &id_map,
+                                &offset, &select_option, &screenshot, &help,  &version};
 
 class Arguments {
   public:
@@ -34,13 +38,9 @@ class Arguments {
         for (const Option* option : options)
             parser_.addOption({QString::fromLatin1(option->name), QString::fromLatin1(option->help),
                                QString::fromLatin1(option->value)});
-        help_ = parser_.addHelpOption().names().constFirst();
-        version_ = parser_.addVersionOption().names().constFirst();
     }
 
     bool parse(const QStringList& arguments) { return parser_.parse(arguments); }
-    bool asks_for_help() const { return parser_.isSet(help_); }
-    bool asks_for_version() const { return parser_.isSet(version_); }
     bool has(const Option& option) const { return parser_.isSet(QString::fromLatin1(option.name)); }
     QString value(const Option& option) const {
         return parser_.value(QString::fromLatin1(option.name));
@@ -52,7 +52,7 @@ class Arguments {
     PrintAndEnd wrong_use(const QString& reason) const {
         return {reason + QStringLiteral("\n\n") + parser_.helpText(), true};
     }
-    PrintAndEnd help() const { return {parser_.helpText(), false}; }
+    PrintAndEnd usage() const { return {parser_.helpText(), false}; }
     QString error() const {
         return parser_.positionalArguments().isEmpty()
                    ? parser_.errorText()
@@ -62,8 +62,6 @@ class Arguments {
 
   private:
     QCommandLineParser parser_;
-    QString help_;
-    QString version_;
 };
 
 /// Reads "X,Y" as the map files dialog reads its two fields.
@@ -79,9 +77,9 @@ std::variant<CommandLine, PrintAndEnd> read_command_line(const QStringList& argu
     Arguments given;
     if (!given.parse(arguments) || !given.error().isEmpty())
         return given.wrong_use(given.error());
-    if (given.asks_for_help())
-        return given.help();
-    if (given.asks_for_version())
+    if (given.has(help))
+        return given.usage();
+    if (given.has(version))
         return PrintAndEnd{QStringLiteral("Province Editor " PROVINCE_EDITOR_VERSION "\n"), false};
 
     CommandLine line;

@@ -28,8 +28,7 @@ void store(std::vector<Entry>& entries, const ListInfo& list, Entry entry, int l
         entries.clear();
     if (entries.size() == list.capacity)
         throw data::RunTimeError(data::ErrorNumber::subscript_out_of_range,
-                                 "line " + std::to_string(line) + ", key " +
-                                     std::string(list.prefix) + entry.code + ": at most " +
+                                 "line " + std::to_string(line) + ": at most " +
                                      std::to_string(list.capacity) + " records with the prefix " +
                                      std::string(list.prefix) + " were expected");
     entries.push_back(std::move(entry));

@@ -70,6 +70,7 @@ void MDIForm1::ouvrir_csv() {
 data::ReadReport MDIForm1::open_province_file() {
     const auto& path = session_.configuration.province_file_path;
     const std::string bytes = read_file(path);
+    panel_->forget_shown();
     try {
         return data::read_provinces(bytes, session_.provinces);
     } catch (const data::RunTimeError& error) {
@@ -104,8 +105,10 @@ void MDIForm1::enter_mode(map::Mode mode) {
     panel_->setVisible(mode == map::Mode::normal);
     if (auto* map = map_window())
         map->mode_changed();
-    if (mode == map::Mode::normal)
+    if (mode == map::Mode::normal) {
+        panel_->show_selection(); // clicks in the mode that ends may have moved what it shows
         options();
+    }
     show_status_text(map::info(mode).status_text);
 }
 

@@ -1,6 +1,7 @@
 #include "data/run_time_error.h"
 #include "dialog_driver.h"
 #include "gfx/form2.h"
+#include "leaks.h"
 #include "shell/session.h"
 #include "shell/stored_path.h"
 
@@ -104,6 +105,7 @@ TEST_F(Form2Test, OffsetsAreLeadingNumbers) {
 }
 
 TEST_F(Form2Test, OffsetBeyond16BitsIsAnOverflow) {
+    const LeaksExpected leaks;
     run([&](gfx::Form2& form) {
         type(form, "Text4", "32767.5");
         try {

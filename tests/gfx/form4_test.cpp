@@ -199,8 +199,11 @@ TEST_F(Form4Test, FileIsChosenByMouseAndKeyboard) {
         },
         [&] { double_click(files(), "A.CSV"); },
         [&] {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+            click(folders(), "data");
+            QTest::keyClick(&folders(), Qt::Key_Tab);
+            ASSERT_EQ(QApplication::focusWidget(), &files());
+            QTest::keyClick(&files(), Qt::Key_Down);
+            QTest::keyClick(&files(), Qt::Key_Return);
         },
     };
     for (const auto& act : choices) {

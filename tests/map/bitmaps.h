@@ -16,10 +16,10 @@
 /// Small bitmap files for the tests of the map.
 namespace bitmaps {
 
-inline std::string number(std::uint32_t value, int bytes) {
+inline std::string number(std::uint64_t value, int bytes) {
     std::string text;
-    for (int i = 0; i < bytes; ++i)
-        text += static_cast<char>(value >> (8 * i) & 0xFF);
+    for (int i = 0; i < bytes; ++i, value >>= 8)
+        text += static_cast<char>(value & 0xFF);
     return text;
 }
 
@@ -28,10 +28,12 @@ struct Format {
     int height = 0; // negative: top-down
     int bits_per_pixel = 24;
     std::string masks = {};
-    int palette = 0; // entries
+    std::size_t palette = 0; // entries
 
     std::size_t bytes_per_row() const {
-        return static_cast<std::size_t>((width * bits_per_pixel + 31) / 32 * 4);
+        const auto bits =
+            static_cast<std::size_t>(width) * static_cast<std::size_t>(bits_per_pixel);
+        return (bits + 31) / 32 * 4;
     }
 };
 
@@ -39,16 +41,15 @@ struct Format {
 inline std::string header(const Format& format) {
     std::string palette;
     std::mt19937 random(7);
-    for (int i = 0; i < format.palette; ++i)
-        palette += number(static_cast<std::uint32_t>(random()) & 0xFFFFFF, 4);
-    const auto begin = static_cast<std::uint32_t>(54 + format.masks.size() + palette.size());
+    for (std::size_t i = 0; i < format.palette; ++i)
+        palette += number(random() & 0xFFFFFF, 4);
+    const std::size_t begin = 54 + format.masks.size() + palette.size();
     return "BM" + number(0, 8) + number(begin, 4) + number(40, 4) +
            number(static_cast<std::uint32_t>(format.width), 4) +
            number(static_cast<std::uint32_t>(format.height), 4) + number(1, 2) +
            number(static_cast<std::uint32_t>(format.bits_per_pixel), 2) +
-           number(format.masks.empty() ? 0 : 3, 4) + number(0, 12) +
-           number(static_cast<std::uint32_t>(format.palette), 4) + number(0, 4) + format.masks +
-           palette;
+           number(format.masks.empty() ? 0 : 3, 4) + number(0, 12) + number(format.palette, 4) +
+           number(0, 4) + format.masks + palette;
 }
 
 /// Returns a bitmap whose pixels are noise.

@@ -1,10 +1,12 @@
 #include "data/run_time_error.h"
+#include "leaks.h"
 #include "map/bitmaps.h"
 #include "map/form1.h"
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPaintEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -62,8 +64,10 @@ class BoxReader {
 class Form1 : public testing::Test {
   protected:
     Form1() {
-        session.maps.map_1_path = folder.write("1.bmp", plain_map());
-        session.maps.id_map_path = folder.write("id.bmp", id_map());
+        static const std::string plain = plain_map();
+        static const std::string provinces = id_map();
+        session.maps.map_1_path = folder.write("1.bmp", plain);
+        session.maps.id_map_path = folder.write("id.bmp", provinces);
     }
 
     /// Opens the maps in a window of the given size.
@@ -143,9 +147,9 @@ TEST_F(Form1, UnreadableImageIsAnError) {
 
 TEST_F(Form1, ClickSelects) {
     struct Row {
-        Qt::MouseButton button;
+        Qt::MouseButton button = Qt::NoButton;
         Qt::KeyboardModifiers keys;
-        const char* clicked;
+        const char* clicked = "";
     };
     const Row rows[] = {
         {Qt::LeftButton, Qt::NoModifier, "14 "},
@@ -230,6 +234,45 @@ TEST_F(Form1, MarksWhereThingsStand) {
     EXPECT_EQ(seen().pixel(350, 250), paper);
 }
 
+/// Collects what a widget paints.
+class PaintedRegion : public QObject {
+  public:
+    explicit PaintedRegion(QWidget* widget) { widget->installEventFilter(this); }
+    QRegion region;
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint)
+            region |= static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+};
+
+TEST_F(Form1, RepaintsOnlyWhatThePointedProvinceChanges) {
+    session.mode = Mode::ville;
+    open();
+    click({350, 250}); // province 22
+    click({850, 650}); // province 63
+    QTest::mouseMove(surface(), {10, 10});
+    QCoreApplication::processEvents();
+    const QImage before = seen();
+
+    PaintedRegion painted(surface());
+    QTest::mouseMove(surface(), {310, 210});
+    QCoreApplication::processEvents();
+    const QRect changed = painted.region.boundingRect();
+    EXPECT_TRUE(painted.region.contains(QPoint(350, 250)));
+    EXPECT_LT(changed.width(), 100);
+    EXPECT_NE(seen().copy(changed), before.copy(changed));
+
+    painted.region = {};
+    QTest::mouseMove(surface(), {810, 610});
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(painted.region.contains(QPoint(350, 250)));
+    EXPECT_TRUE(painted.region.contains(QPoint(850, 650)));
+    EXPECT_FALSE(painted.region.contains(QPoint(600, 450)));
+}
+
 TEST_F(Form1, DotsTheSelection) {
     open();
     session.selection.apply("1;12");
@@ -242,9 +285,11 @@ TEST_F(Form1, DotsTheSelection) {
                 << x << ' ' << y;
         }
     }
-    EXPECT_EQ(image.pixel(44, 40), 0xFF000000) << "ten pixels wide";
-    EXPECT_EQ(image.pixel(46, 40), paper);
-    EXPECT_NE(image.pixel(44, 44), 0xFF000000) << "round";
+    for (const QPoint edge : {QPoint(-5, 0), QPoint(4, 0), QPoint(0, -5), QPoint(0, 4)}) {
+        EXPECT_EQ(image.pixel(QPoint(40, 40) + edge), 0xFF000000) << "ten pixels wide and high";
+        EXPECT_EQ(image.pixel(QPoint(40, 40) + edge * 3 / 2), paper);
+    }
+    EXPECT_EQ(image.pixel(44, 44), paper) << "round";
 
     // A view that cuts dots in two is painted as the whole is.
     const QRect part(33, 27, 71, 44);
@@ -299,6 +344,7 @@ TEST_F(Form1, ForeignColourUnderAClickEndsTheClickOnly) {
 }
 
 TEST_F(Form1, OverflowOfYIsAnError) {
+    const LeaksExpected leaks;
     session.mode = Mode::ville;
     session.maps.y_offset = 32700;
     open();

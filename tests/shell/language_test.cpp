@@ -1,10 +1,7 @@
 #include "data/run_time_error.h"
-#include "shell/files.h"
 #include "shell/language.h"
 
 #include <gtest/gtest.h>
-#include <map>
-#include <set>
 #include <string>
 
 namespace {
@@ -47,39 +44,6 @@ TEST(LanguageTexts, AListHoldsItsCapacityAndNoMore) {
             EXPECT_EQ(error.number(), data::ErrorNumber::subscript_out_of_range);
             const std::string line = "line " + std::to_string(list.capacity + 1) + ",";
             EXPECT_NE(error.place().find(line), std::string::npos) << error.place();
-        }
-    }
-}
-
-TEST(LanguageTexts, BothLanguagesAreFullAndHaveTheSameCodes) {
-    const auto read = [](const char* name) {
-        return LanguageTexts(shell::read_file(std::string(LANGUAGES_FOLDER "/") + name));
-    };
-    const LanguageTexts english = read("english.lng");
-    const LanguageTexts french = read("french.lng");
-    for (const auto& list : shell::value_lists) {
-        const auto ours = english.list(list.prefix);
-        const auto theirs = french.list(list.prefix);
-        ASSERT_EQ(ours.size(), theirs.size()) << list.prefix;
-        const bool is_values = !list.prefix.starts_with("ME");
-        if (is_values) {
-            EXPECT_EQ(ours.size(), list.capacity) << list.prefix;
-        }
-        std::set<std::string> codes;
-        for (std::size_t n = 0; n < ours.size(); ++n) {
-            EXPECT_EQ(ours[n].code, theirs[n].code);
-            EXPECT_FALSE(ours[n].text.empty() || theirs[n].text.empty()) << ours[n].code;
-            EXPECT_TRUE(codes.insert(ours[n].code).second) << "twice: " << ours[n].code;
-        }
-        for (const auto& texts : {ours, theirs}) {
-            std::map<std::string, std::string> code_of;
-            for (const auto& entry : texts) {
-                if (!is_values)
-                    continue;
-                const auto [known, is_new] = code_of.emplace(entry.text, entry.code);
-                EXPECT_TRUE(is_new)
-                    << entry.text << " is " << known->second << " and " << entry.code;
-            }
         }
     }
 }

@@ -1,4 +1,5 @@
 #include "data/province_file.h"
+#include "leaks.h"
 #include "sample.h"
 #include "shell/menus.h"
 #include "support/main_frame.h"
@@ -275,6 +276,7 @@ TEST_F(MDIForm1, ErrorsInACommandEndTheProgramAndLoseNothing) {
     start();
     select("7");
     type("nom_ville", to_qstring("M\xFCnchen"));
+    const LeaksExpected leaks;
     testing::internal::CaptureStderr();
     save_as("taken");
     const std::string errors = testing::internal::GetCapturedStderr();
@@ -311,6 +313,8 @@ TEST_F(MDIForm1, OpenSelectChangeAndSave) {
     folder.write("config.txt", "\"CSV\"," + ('"' + folder.path("x.csv") + '"') +
                                    ",0\r\n\"CSV2\",\"" + folder.path("x.csv") + "\",0\r\n");
     start();
+    select("5");
+    click("nom_ville"); // shows what the file is about to replace
     boxes.answer = QMessageBox::Yes;
     in_chooser([](QDialog& chooser) {
         auto& files = driver::control<QListWidget>(chooser, "File1");
