@@ -72,10 +72,10 @@ TEST_F(Program, ArgumentsAndWhatTheyEndWith) {
         {{"--map1", "x.bmp"}, 2, {"--id-map"}},
         {{"--offset", "1,2"}, 2, {"--offset"}},
         {{"--map1", "a", "--id-map", "b", "--offset", "1,40000"}, 2, {"40000"}},
-        {{"--csv", "good.csv"}, 0, {"good.csv: 2 provinces read"}},
-        {{"--csv", "unix.csv"}, 0, {"0 provinces read", "carriage return"}},
-        {{"--csv", "none.csv"}, 0, {"0 provinces read", "identifier from 1 to 2018"}},
-        {{"--csv", "empty.csv"}, 0, {"0 provinces read", "empty"}},
+        {{"--csv", "good.csv"}, 0, {"good.csv: provinces read: 2"}},
+        {{"--csv", "unix.csv"}, 0, {"provinces read: 0", "carriage return"}},
+        {{"--csv", "none.csv"}, 0, {"provinces read: 0", "identifier from 1 to 2018"}},
+        {{"--csv", "empty.csv"}, 0, {"provinces read: 0", "empty"}},
         {{"--csv", "absent.csv"}, 1, {"absent.csv", "ile not found"}},
         {{"--csv", "."}, 1, {"file was expected"}},
         {{"--csv", "short.csv"}, 1, {"short.csv", "line 2", "province 6", "column 3"}},
@@ -152,7 +152,7 @@ TEST_F(Program, EndsOnTheSystemsRequest) {
     process.setReadChannel(QProcess::StandardError);
     while (!process.canReadLine())
         ASSERT_TRUE(process.waitForReadyRead(20000));
-    EXPECT_TRUE(process.readLine().contains("1 provinces read"));
+    EXPECT_TRUE(process.readLine().contains("provinces read: 1"));
     process.terminate();
     ASSERT_TRUE(process.waitForFinished(20000));
     EXPECT_EQ(process.exitCode(), 128 + 15);

@@ -42,7 +42,7 @@ TEST(LanguageTexts, AListHoldsItsCapacityAndNoMore) {
             FAIL() << list.prefix;
         } catch (const data::RunTimeError& error) {
             EXPECT_EQ(error.number(), data::ErrorNumber::subscript_out_of_range);
-            const std::string line = "line " + std::to_string(list.capacity + 1) + ",";
+            const std::string line = "line " + std::to_string(list.capacity + 1) + ":";
             EXPECT_NE(error.place().find(line), std::string::npos) << error.place();
         }
     }
