@@ -30,7 +30,7 @@ class Program : public testing::Test {
         ASSERT_TRUE(process.waitForStarted());
     }
     /// Returns the exit status.
-    int run(QStringList arguments) {
+    int run(const QStringList& arguments) {
         start(QStringList{"--folder", folder.native({})} + arguments);
         EXPECT_TRUE(process.waitForFinished(20000));
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);

@@ -91,54 +91,54 @@ enum class By { typing, press, space, item };
 
 struct FieldRow {
     int field;
+    By by;
     const char* stored;
     const char* control;
     const char* shown;
-    By by;
     const char* input;   // text, or item of a list
     const char* entered; // the cell afterwards
     std::map<int, const char*> side_effects = {};
 };
 
 const FieldRow field_rows[] = {
-    {1, "Porto", "nom_province", "Porto", By::typing, "\xC9vora", "\xC9vora"},
-    {2, "Coastal", "cote", "on", By::press, "", "inland"},
-    {2, "inland", "cote", "off", By::space, "", "coastal"},
-    {2, "", "cote", "off", By::press, "", "coastal"},
-    {3, "Sunni", "religion(3)", "6", By::press, "", "protestant"},
-    {3, "unknown", "religion(10)", "", By::press, "", "buddhist"},
-    {4, "AKAN", "culture", "Akan", By::item, "(none)", "none"},
-    {4, "unknown", "culture", "", By::item, "Albanian", "albanian"},
-    {5, "-1", "taille", "-1", By::typing, "two", "two"},
-    {7, "0", "climat(0)", "8", By::press, "", "8"},
-    {8, "1", "océan(0)", "on", By::press, "", "0"},
-    {9, "0", "océan(1)", "off", By::space, "", "1"},
-    {10, "1.0", "océan(2)", "on", By::press, "", "0"},
-    {11, "7", "manpower", "7", By::typing, "", ""},
-    {12, "7", "income", "7", By::typing, "12,5", "12,5"},
-    {13, "6", "terrain(0)", "6", By::space, "", "0"},
-    {14, "1", "tot(1)", "2", By::press, "", "0", {{15, "1"}}},
-    {14, "x", "tot(2)", "0", By::press, "", "1", {{15, "0"}}},
-    {15, "1", "tot(0)", "1", By::press, "", "0", {{14, "0"}}},
-    {16, "0", "serge(1)", "0", By::press, "", "1"},
-    {18, "9", "mine", "9", By::typing, "10", "10"},
-    {19, "gold", "production(0)", "1", By::press, "", "nothing", {{17, "0"}}},
-    {19, "fish", "production(1)", "9", By::press, "", "gold", {{17, "1"}}},
-    {20, "1", "production_plus", "on", By::press, "", "0"},
-    {21, "-3", "cot(8)", "0", By::press, "", "5"},
-    {22, "9", "dc(1)", "9", By::press, "", "1"},
-    {23, "40", "natif", "40", By::typing, "50", "50"},
-    {24, "2.7", "férocité", "2.7", By::typing, "2,5", "2.5"},
-    {25, "1.25", "efficacité", "1.25", By::typing, "0.4", "0.4"},
-    {26, "3", "dt(0)", "3", By::press, "", "0"},
-    {27, "0", "tol(9)", "0", By::press, "", "9"},
-    {49, "akan", "aire", "", By::item, "Algarve", "algarve"},
-    {50, "andes", "région", "Andes", By::item, "Alpine Lands", "alpinelands"},
-    {51, "x", "continent(4)", "", By::press, "", "oceania"},
-    {52, "Faro", "nom_ville", "Faro", By::typing, "A;B", "A;B"},
-    {53, "1", "rivière0", "1", By::typing, "2", "2"},
-    {54, "1", "rivière1", "1", By::typing, "2", "2"},
-    {55, "1", "rivière2", "1", By::typing, "2", "2"},
+    {1, By::typing, "Porto", "nom_province", "Porto", "\xC9vora", "\xC9vora"},
+    {2, By::press, "Coastal", "cote", "on", "", "inland"},
+    {2, By::space, "inland", "cote", "off", "", "coastal"},
+    {2, By::press, "", "cote", "off", "", "coastal"},
+    {3, By::press, "Sunni", "religion(3)", "6", "", "protestant"},
+    {3, By::press, "unknown", "religion(10)", "", "", "buddhist"},
+    {4, By::item, "AKAN", "culture", "Akan", "(none)", "none"},
+    {4, By::item, "unknown", "culture", "", "Albanian", "albanian"},
+    {5, By::typing, "-1", "taille", "-1", "two", "two"},
+    {7, By::press, "0", "climat(0)", "8", "", "8"},
+    {8, By::press, "1", "océan(0)", "on", "", "0"},
+    {9, By::space, "0", "océan(1)", "off", "", "1"},
+    {10, By::press, "1.0", "océan(2)", "on", "", "0"},
+    {11, By::typing, "7", "manpower", "7", "", ""},
+    {12, By::typing, "7", "income", "7", "12,5", "12,5"},
+    {13, By::space, "6", "terrain(0)", "6", "", "0"},
+    {14, By::press, "1", "tot(1)", "2", "", "0", {{15, "1"}}},
+    {14, By::press, "x", "tot(2)", "0", "", "1", {{15, "0"}}},
+    {15, By::press, "1", "tot(0)", "1", "", "0", {{14, "0"}}},
+    {16, By::press, "0", "serge(1)", "0", "", "1"},
+    {18, By::typing, "9", "mine", "9", "10", "10"},
+    {19, By::press, "gold", "production(0)", "1", "", "nothing", {{17, "0"}}},
+    {19, By::press, "fish", "production(1)", "9", "", "gold", {{17, "1"}}},
+    {20, By::press, "1", "production_plus", "on", "", "0"},
+    {21, By::press, "-3", "cot(8)", "0", "", "5"},
+    {22, By::press, "9", "dc(1)", "9", "", "1"},
+    {23, By::typing, "40", "natif", "40", "50", "50"},
+    {24, By::typing, "2.7", "férocité", "2.7", "2,5", "2.5"},
+    {25, By::typing, "1.25", "efficacité", "1.25", "0.4", "0.4"},
+    {26, By::press, "3", "dt(0)", "3", "", "0"},
+    {27, By::press, "0", "tol(9)", "0", "", "9"},
+    {49, By::item, "akan", "aire", "", "Algarve", "algarve"},
+    {50, By::item, "andes", "région", "Andes", "Alpine Lands", "alpinelands"},
+    {51, By::press, "x", "continent(4)", "", "", "oceania"},
+    {52, By::typing, "Faro", "nom_ville", "Faro", "A;B", "A;B"},
+    {53, By::typing, "1", "rivière0", "1", "2", "2"},
+    {54, By::typing, "1", "rivière1", "1", "2", "2"},
+    {55, By::typing, "1", "rivière2", "1", "2", "2"},
 };
 
 TEST_F(Panel, EachFieldIsShownAndEnteredThroughItsControl) {

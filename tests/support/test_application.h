@@ -24,8 +24,10 @@ class TestApplication : public ProgramState, public shell::Application {
     static TestApplication& instance() { return *static_cast<TestApplication*>(qApp); }
 
     bool notify(QObject* receiver, QEvent* event) override {
-        return treats_errors ? Application::notify(receiver, event)
-                             : QApplication::notify(receiver, event);
+        if (treats_errors)
+            return Application::notify(receiver, event);
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call): passes over the treatment of errors
+        return QApplication::notify(receiver, event);
     }
 
     bool treats_errors = false;
