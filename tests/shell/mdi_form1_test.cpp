@@ -271,12 +271,12 @@ TEST_F(MDIForm1, TheMapTakesTheFocusWhenPressed) {
 }
 
 TEST_F(MDIForm1, ErrorsInACommandEndTheProgramAndLoseNothing) {
+    const LeaksExpected leaks;
     QDir(folder.native({})).mkdir("taken.csv");
     session.configuration.province_save_path = folder.path("x.csv");
     start();
     select("7");
     type("nom_ville", to_qstring("M\xFCnchen"));
-    const LeaksExpected leaks;
     testing::internal::CaptureStderr();
     save_as("taken");
     const std::string errors = testing::internal::GetCapturedStderr();
