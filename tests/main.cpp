@@ -1,11 +1,10 @@
-#include <gtest/gtest.h>
+#include "support/test_application.h"
 
-#include <QApplication>
+#include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argc, argv);
-    const QApplication application(argc, argv);
-    QApplication::setApplicationDisplayName(QStringLiteral("Province Editor"));
+    const support::TestApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -20,7 +20,8 @@ bool leaves(const QWidget& field, Qt::FocusReason reason) {
     if (reason != Qt::ActiveWindowFocusReason)
         return true;
     const QWidget* active = QApplication::activeWindow();
-    return active && active != field.window() && !qobject_cast<const QMessageBox*>(active);
+    return active && active != field.window() && active->windowType() != Qt::Popup &&
+           !qobject_cast<const QMessageBox*>(active);
 }
 
 } // namespace

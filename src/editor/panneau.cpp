@@ -123,8 +123,9 @@ void Panneau::forget_shown() {
 }
 
 void Panneau::write_typed_text() {
+    // The field may be without the focus: while another program is used, no control has it.
     for (const auto& entry : entries_) {
-        if (entry.field->hasFocus() && entry.field->isModified())
+        if (entry.field->isModified())
             entry.store();
     }
 }

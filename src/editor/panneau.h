@@ -36,7 +36,7 @@ class Panneau : public QWidget {
     /// Tells the panel that a file was read: what the fields show is not to be written back over it.
     void forget_shown();
 
-    /// Writes a text that was typed into a field which still has the keyboard focus.
+    /// Writes a text that was typed into a field which was not left since.
     void write_typed_text();
 
   signals:

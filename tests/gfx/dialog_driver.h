@@ -18,7 +18,7 @@ namespace driver {
 
 template <class Control>
 Control& control(QWidget& window, const char* name) {
-    auto* found = window.findChild<Control*>(QString::fromLatin1(name));
+    auto* found = window.findChild<Control*>(QString::fromUtf8(name));
     if (found == nullptr)
         throw std::runtime_error(std::string("no control ") + name);
     return *found;

@@ -1,0 +1,163 @@
+#include "map/bitmaps.h"
+
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace {
+
+/// Runs of the built program, in a folder of its own and on no display.
+class Program : public testing::Test {
+  protected:
+    Program() {
+        for (const char* name : {"english.lng", "french.lng"})
+            QFile::copy(QStringLiteral(LANGUAGES_FOLDER "/") + QLatin1String(name),
+                        folder.native(QLatin1String(name)));
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        environment.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("*.warning=false"));
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(folder.native({}));
+    }
+
+    void start(const QStringList& arguments) {
+        process.start(QStringLiteral(PROGRAM), arguments);
+        ASSERT_TRUE(process.waitForStarted());
+    }
+    /// Returns the exit status.
+    int run(const QStringList& arguments) {
+        start(QStringList{"--folder", folder.native({})} + arguments);
+        EXPECT_TRUE(process.waitForFinished(20000));
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        output = process.readAllStandardOutput().toStdString();
+        errors = process.readAllStandardError().toStdString();
+        return process.exitCode();
+    }
+
+    static std::string province_line(const std::string& identifier, const std::string& line_end) {
+        std::string line = identifier;
+        for (int field = 2; field <= 59; ++field)
+            line.append(1, ';').append(std::to_string(field));
+        return line + line_end;
+    }
+
+    bitmaps::Folder folder;
+    QProcess process;
+    std::string output;
+    std::string errors;
+};
+
+TEST_F(Program, ArgumentsAndWhatTheyEndWith) {
+    folder.write("good.csv", province_line("5", "\r\n") + province_line("2018", "\r\n"));
+    folder.write("unix.csv", "Id;Name\n" + province_line("5", "\n"));
+    folder.write("none.csv", province_line("2019", "\r\n"));
+    folder.write("empty.csv", "");
+    folder.write("short.csv", province_line("5", "\r\n") + "6;only;three\r\n");
+    const struct {
+        QStringList arguments;
+        int status;
+        std::vector<const char*> errors;
+        const char* output = "";
+    } rows[] = {
+        {{"--help"}, 0, {}, "--screenshot"},
+        {{"--version"}, 0, {}, "Province Editor 0.9.12"},
+        {{"--colour"}, 2, {"colour", "Usage"}},
+        {{"file.csv"}, 2, {"file.csv", "Usage"}},
+        {{"--csv"}, 2, {"csv", "Usage"}},
+        {{"--map1", "x.bmp"}, 2, {"--id-map"}},
+        {{"--offset", "1,2"}, 2, {"--offset"}},
+        {{"--map1", "a", "--id-map", "b", "--offset", "1,40000"}, 2, {"40000"}},
+        {{"--csv", "good.csv"}, 0, {"good.csv: provinces read: 2"}},
+        {{"--csv", "unix.csv"}, 0, {"provinces read: 0", "carriage return"}},
+        {{"--csv", "none.csv"}, 0, {"provinces read: 0", "identifier from 1 to 2018"}},
+        {{"--csv", "empty.csv"}, 0, {"provinces read: 0", "empty"}},
+        {{"--csv", "absent.csv"}, 1, {"absent.csv", "ile not found"}},
+        {{"--csv", "."}, 1, {"file was expected"}},
+        {{"--csv", "short.csv"}, 1, {"short.csv", "line 2", "province 6", "column 3"}},
+        {{"--map1", "absent.bmp", "--id-map", "absent.bmp"}, 1, {"absent.bmp"}},
+        {{"--select", "5--7"}, 1, {"province identifiers and ranges"}},
+        {{"--select", "1-2019"}, 1, {"2019"}},
+        {{"--select", "1-2018"}, 0, {}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.arguments.join(' ').toStdString());
+        EXPECT_EQ(run(row.arguments + QStringList{"--screenshot", "picture.png"}), row.status);
+        for (const char* part : row.errors)
+            EXPECT_NE(errors.find(part), std::string::npos) << part << " in " << errors;
+        EXPECT_NE(output.find(row.output), std::string::npos) << output;
+        const bool painted = row.status == 0 && *row.output == '\0';
+        EXPECT_EQ(QFile::remove(folder.native("picture.png")), painted);
+        EXPECT_EQ(errors.empty(), row.errors.empty()) << errors;
+        EXPECT_FALSE(QFile::exists(folder.native("recovered.csv"))) << "nothing was changed";
+    }
+}
+
+TEST_F(Program, PaintsItsWindow) {
+    ASSERT_EQ(run({"--screenshot", "picture.png"}), 0);
+    const QImage picture(folder.native("picture.png"));
+    EXPECT_EQ(picture.size(), QSize(1280, 720));
+    EXPECT_NE(picture.pixel(10, 10), picture.pixel(300, 300)) << "menu bar and workspace";
+    EXPECT_EQ(run({"--screenshot", "absent/picture.png"}), 1);
+    EXPECT_NE(errors.find("absent/picture.png"), std::string::npos);
+}
+
+TEST_F(Program, NamesTheFileThatItCannotStartWith) {
+    std::string too_many;
+    for (int n = 0; n < 12; ++n)
+        too_many += "\"RELIGION_x\",\"x\"\r\n";
+    const struct {
+        const char* configuration;
+        const char* language; // bytes of own.lng, none: the file is absent
+        std::vector<const char*> errors;
+    } rows[] = {
+        {"\"LAN\",\"own.lng\",0\r\n", nullptr, {"own.lng", "ile not found"}},
+        {"\"LAN\",\"own.lng\",0\r\n", too_many.c_str(), {"own.lng", "line 12", "RELIGION_"}},
+        {"\"LAN\",\"own.lng\",0\r\n", "\"MENU_a\"", {"own.lng", "line 1"}},
+        {"\"LAN\",\"english.lng\"\r\n", nullptr, {"config.txt", "inside a record"}},
+        {"\"GFX2\",\"c:\",40000\r\n", nullptr, {"config.txt", "line 1", "40000"}},
+        {"\"GFX\",\"c:\",0\r\n\"ville\",\"c:\\absent.spr\",\"x\"\r\n",
+         nullptr,
+         {"config.txt", "line 2", "absent.spr"}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.configuration);
+        folder.write("config.txt", row.configuration);
+        if (row.language != nullptr)
+            folder.write("own.lng", row.language);
+        EXPECT_EQ(run({"--screenshot", "picture.png"}), 1);
+        for (const char* part : row.errors)
+            EXPECT_NE(errors.find(part), std::string::npos) << part << " in " << errors;
+    }
+}
+
+TEST_F(Program, ASystemWithoutADisplayIsToldSo) {
+    auto environment = process.processEnvironment();
+    for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+        environment.remove(QLatin1String(name));
+    process.setProcessEnvironment(environment);
+    EXPECT_EQ(run({}), 1);
+    EXPECT_NE(errors.find("no display"), std::string::npos) << errors;
+    EXPECT_EQ(run({"--screenshot", "picture.png"}), 0) << errors;
+}
+
+#ifdef Q_OS_UNIX
+TEST_F(Program, EndsOnTheSystemsRequest) {
+    folder.write("good.csv", province_line("5", "\r\n"));
+    start({"--folder", folder.native({}), "--csv", "good.csv"});
+    process.setReadChannel(QProcess::StandardError);
+    while (!process.canReadLine())
+        ASSERT_TRUE(process.waitForReadyRead(20000));
+    EXPECT_TRUE(process.readLine().contains("provinces read: 1"));
+    process.terminate();
+    ASSERT_TRUE(process.waitForFinished(20000));
+    EXPECT_EQ(process.exitCode(), 128 + 15);
+    EXPECT_FALSE(QFile::exists(folder.native("recovered.csv"))) << "nothing was changed";
+}
+#endif
+
+} // namespace

@@ -1,0 +1,163 @@
+#pragma once
+
+#include "gfx/dialog_driver.h"
+#include "map/bitmaps.h"
+#include "shell/captions.h"
+#include "shell/files.h"
+#include "shell/mdi_form1.h"
+#include "support/message_boxes.h"
+#include "support/test_application.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QTest>
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+
+namespace support {
+
+/// The program in a folder of its own, used by mouse and keyboard.
+class MainFrame : public testing::Test {
+  protected:
+    MainFrame() {
+        session = shell::Session();
+        session.program_folder = folder.path(QString());
+        application.ends.clear();
+        application.treats_errors = true;
+        for (const auto* name : {"english.lng", "french.lng"})
+            folder.write(QLatin1String(name), language_file(name));
+        QObject::connect(&chooser_timer_, &QTimer::timeout, [this] {
+            auto* chooser = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (chooser == nullptr || chooser->objectName() != QStringLiteral("Form4"))
+                return;
+            chooser_timer_.stop();
+            chooser_act_(*chooser);
+        });
+    }
+    ~MainFrame() override {
+        frame.reset();
+        application.treats_errors = false;
+    }
+
+    static std::string language_file(const std::string& name) {
+        return shell::read_file(std::string(LANGUAGES_FOLDER) + "/" + name);
+    }
+
+    void start() {
+        frame = std::make_unique<shell::MDIForm1>(session);
+        frame->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(frame.get()));
+    }
+
+    template <class Control>
+    Control& control(const std::string& name) const {
+        return driver::control<Control>(*frame, name.c_str());
+    }
+    QAction& action(const std::string& name) const {
+        auto* found = frame->findChild<QAction*>(QString::fromStdString(name));
+        if (found == nullptr)
+            throw std::runtime_error("no action " + name);
+        return *found;
+    }
+
+    /// Comes back to the frame, as a desktop does when a box over it was closed, and opens the
+    /// panel's tab that holds the control.
+    QWidget& visible(const std::string& name) const {
+        come_back();
+        auto& found = control<QWidget>(name);
+        auto* frames = control<QWidget>("panneau").findChild<QStackedWidget*>();
+        for (int tab = 0; tab < frames->count(); ++tab) {
+            if (frames->widget(tab)->isAncestorOf(&found) && frames->currentIndex() != tab)
+                open_tab(tab);
+        }
+        return found;
+    }
+    void come_back() const {
+        if (frame->isActiveWindow())
+            return;
+        frame->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(frame.get()));
+    }
+    void open_tab(int tab) const {
+        auto& strip = control<QTabBar>("TabStrip1");
+        QTest::mouseClick(&strip, Qt::LeftButton, {}, strip.tabRect(tab).center());
+    }
+    void click(const std::string& name) const {
+        auto& target = visible(name);
+        QTest::mouseClick(&target, Qt::LeftButton, {}, spot(target));
+    }
+    /// Returns where a control answers to the mouse: options and boxes only do so on their left.
+    static QPoint spot(const QWidget& control) {
+        const auto* button = qobject_cast<const QAbstractButton*>(&control);
+        const QPoint middle = control.rect().center();
+        return button != nullptr && button->isCheckable() ? QPoint(8, middle.y()) : middle;
+    }
+
+    /// Types the text in the place of a field's present one; the field is not left.
+    void type(const std::string& name, const QString& text) const {
+        auto& field = visible(name);
+        QTest::mouseClick(&field, Qt::LeftButton);
+        QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(&field, Qt::Key_Delete);
+        for (const QChar character : text) // keyClicks knows not all of them
+            QTest::sendKeyEvent(QTest::Click, &field, Qt::Key_unknown, QString(character), {});
+    }
+    void enter(const std::string& name, const QString& text) const {
+        type(name, text);
+        QTest::keyClick(&control<QWidget>(name), Qt::Key_Return);
+        QCoreApplication::processEvents();
+    }
+    void select(const QString& text) const { enter("selection_text", text); }
+
+    /// Opens a menu of the menu bar and clicks on one of its items.
+    void choose(const std::string& menu, const std::string& item) const {
+        auto& title = action(menu);
+        QTest::mouseClick(frame->menuBar(), Qt::LeftButton, {},
+                          frame->menuBar()->actionGeometry(&title).center());
+        ASSERT_TRUE(title.menu()->isVisible());
+        QTest::mouseClick(title.menu(), Qt::LeftButton, {},
+                          title.menu()->actionGeometry(&action(item)).center());
+        QCoreApplication::processEvents();
+    }
+
+    /// Does what the user does in the location chooser that the next command opens.
+    void in_chooser(std::function<void(QDialog& chooser)> act) {
+        chooser_act_ = std::move(act);
+        chooser_timer_.start(1);
+    }
+    void save_as(const QString& name) {
+        in_chooser([name](QDialog& chooser) {
+            QTest::keyClicks(&driver::control<QLineEdit>(chooser, "Text1"), name);
+            driver::press(chooser, "Command1");
+        });
+        choose("fichier", "enregister");
+    }
+
+    std::string cell(int province, int field) const {
+        return session.provinces.cell(province, data::table_column(data::FieldNumber{field}));
+    }
+    void load(int province, int field, const std::string& text) const {
+        session.provinces.load(province, data::table_column(data::FieldNumber{field}), text);
+    }
+    std::string file(const QString& name) const { return shell::read_file(folder.path(name)); }
+    bool has_file(const QString& name) const { return QFile::exists(folder.native(name)); }
+
+    bitmaps::Folder folder;
+    TestApplication& application = TestApplication::instance();
+    shell::Session& session = application.session;
+    MessageBoxes boxes;
+    std::unique_ptr<shell::MDIForm1> frame;
+
+  private:
+    QTimer chooser_timer_;
+    std::function<void(QDialog& chooser)> chooser_act_;
+};
+
+} // namespace support
