@@ -169,6 +169,7 @@ void MDIForm1::set_selection_text(const std::string& text) {
 }
 
 void MDIForm1::apply_selection(const std::string& text) {
+    panel_->write_typed_text(); // a shortcut selects without taking the focus from a field
     if (!editor::is_well_formed(text))
         show_message(session_, this, session_.language.message(malformed_selection));
     try {
