@@ -1,6 +1,6 @@
-#include <benchmark/benchmark.h>
-
 #include <QApplication>
+
+#include <benchmark/benchmark.h>
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");

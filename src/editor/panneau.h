@@ -33,7 +33,8 @@ class Panneau : public QWidget {
     /// Shows the selected provinces' values in all controls.
     void show_selection();
 
-    /// Tells the panel that a file was read: what the fields show is not to be written back over it.
+    /// Tells the panel that a file was read: what the fields show is not to be written back over
+    /// it.
     void forget_shown();
 
     /// Writes a text that was typed into a field which was not left since.
