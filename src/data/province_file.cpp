@@ -5,6 +5,7 @@
 
 #include <array>
 #include <charconv>
+#include <span>
 
 namespace data {
 
@@ -85,13 +86,17 @@ std::string write_provinces(const ProvinceTable& table) {
     }
     bytes.append(line_end).append(terra_incognita).append(line_end);
 
+    std::array<std::span<const std::string>, first_unwritten.index> columns;
+    for (TableColumn column{0}; column.index < first_unwritten.index; ++column.index)
+        columns[static_cast<std::size_t>(column.index)] = table.column(column);
+
     std::array<char, 8> digits{};
     for (int province = 1; province <= last_province; ++province) {
         const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), province).ptr;
         bytes.append(digits.data(), end);
-        for (TableColumn column{0}; column.index < first_unwritten.index; ++column.index) {
+        for (const auto& column : columns) {
             bytes += separator;
-            bytes += table.cell(province, column);
+            bytes += column[static_cast<std::size_t>(province)];
         }
         bytes.append(unread_columns).append(line_end);
     }

@@ -7,6 +7,13 @@
 
 namespace map {
 
+namespace {
+
+// A strip is drawn while the processor's cache still holds it.
+constexpr int strip_height = 32; // pixels
+
+} // namespace
+
 Picture::Picture(const MapImage& image, DrawAbove draw_above, QWidget* parent)
     : QWidget(parent), image_(image), draw_above_(std::move(draw_above)) {
     setFixedSize(image.size());
@@ -19,12 +26,16 @@ void Picture::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     MapReader reader(image_);
     for (const QRect& exposed : event->region()) {
-        const QSize needed = view_.size().expandedTo(exposed.size());
-        if (needed != view_.size())
-            view_ = QImage(needed, QImage::Format_RGB32);
-        reader.read(exposed, view_);
         painter.setClipRect(exposed);
-        painter.drawImage(exposed.topLeft(), view_, QRect({0, 0}, exposed.size()));
+        for (int top = exposed.top(); top <= exposed.bottom(); top += strip_height) {
+            const QRect strip =
+                QRect(exposed.left(), top, exposed.width(), strip_height) & exposed;
+            const QSize needed = strip_.size().expandedTo(strip.size());
+            if (needed != strip_.size())
+                strip_ = QImage(needed, QImage::Format_RGB32);
+            reader.read(strip, strip_);
+            painter.drawImage(strip.topLeft(), strip_, QRect({0, 0}, strip.size()));
+        }
         draw_above_(painter, exposed);
     }
 }

@@ -34,7 +34,7 @@ class Picture : public QWidget {
   private:
     const MapImage& image_;
     DrawAbove draw_above_;
-    QImage view_; // kept from one painting to the next: its memory is as large as the view
+    QImage strip_; // kept from one painting to the next
 };
 
 } // namespace map

@@ -1,0 +1,134 @@
+#include "support/panel.h"
+
+/// When a text that stands in a field is written, and how the selection text is taken.
+namespace {
+
+using namespace std::string_literals;
+using support::Panel;
+
+TEST_F(Panel, PassingThroughAFieldWritesWhatItShows) {
+    for (const auto& [field, name] :
+         {std::pair{1, "nom_province"}, {52, "nom_ville"}, {11, "manpower"}, {24, "férocité"}}) {
+        click("selection_text");
+        select_with(field, "1", "2");
+        visible(name).setFocus();
+        EXPECT_EQ(cells(field), "1|2");
+        QTest::keyClick(&visible(name), Qt::Key_Tab);
+        EXPECT_EQ(cells(field), "|") << name;
+    }
+    // A value that is no number of the range was not typed here: it stays, without a message.
+    select_with(24, "99", "99");
+    QTest::mouseClick(&visible("férocité"), Qt::LeftButton);
+    click("Command1");
+    EXPECT_EQ(cells(24), "99|99");
+    EXPECT_TRUE(boxes.take().empty());
+}
+
+TEST_F(Panel, AllBytesSurviveAField) {
+    std::string bytes;
+    for (int code = 0; code < 256; ++code)
+        bytes += static_cast<char>(code);
+    select_with(1, bytes, bytes);
+    auto& field = visible("nom_province");
+    QTest::mouseClick(&field, Qt::LeftButton);
+    QTest::keyClick(&field, Qt::Key_Tab);
+    EXPECT_EQ(cell(6, 1), bytes) << "passed through";
+    QTest::mouseClick(&field, Qt::LeftButton);
+    QTest::keyClick(&field, Qt::Key_End);
+    QTest::sendKeyEvent(QTest::Click, &field, Qt::Key_unknown, QStringLiteral("\u0416"),
+                        {}); // not in the code page
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_EQ(cell(6, 1), bytes + "?") << "edited";
+}
+
+TEST_F(Panel, WhatLeavesAFieldAndWhatDoesNot) {
+    // Menus, boxes and another program are not leaving: the merged empty text is not written.
+    select_with(1, "a", "b");
+    auto& field = visible("nom_province");
+    QTest::mouseClick(&field, Qt::LeftButton);
+    QTest::keyClick(&field, Qt::Key_O, Qt::ControlModifier); // answered with No
+    EXPECT_EQ(boxes.take_one(), "message: " + session.language.message(15));
+    EXPECT_EQ(cells(1), "a|b");
+    QTest::mouseClick(&visible("nom_province"), Qt::LeftButton);
+    choose("langue", "langues(1)");
+    EXPECT_EQ(boxes.take_one(), "message: " + session.language.message(18));
+    EXPECT_EQ(cells(1), "a|b");
+    QTest::mouseClick(&field, Qt::RightButton);
+    QContextMenuEvent menu(QContextMenuEvent::Mouse, {3, 3}, field.mapToGlobal(QPoint(3, 3)));
+    QApplication::sendEvent(&field, &menu);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    QFocusEvent away(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QApplication::setActiveWindow(nullptr);
+    QApplication::sendEvent(&field, &away);
+    EXPECT_EQ(cells(1), "a|b");
+    // A tab takes the typed text to the table, and gives the focus to no field.
+    for (int tab = 4; tab >= 0; --tab) {
+        type("nom_province", QString::number(tab));
+        open_tab(tab == 0 ? 1 : tab);
+        EXPECT_EQ(cell(6, 1), std::to_string(tab));
+        EXPECT_EQ(qobject_cast<QLineEdit*>(QApplication::focusWidget()), nullptr);
+        EXPECT_TRUE(control<QStackedWidget>("").currentIndex() == (tab == 0 ? 1 : tab));
+    }
+    type("manpower", QStringLiteral("9"));
+    auto& strip = control<QTabBar>("TabStrip1");
+    QTest::keyClick(frame.get(), Qt::Key_C, Qt::AltModifier); // "&Colony"
+    EXPECT_EQ(strip.currentIndex(), 3);
+    EXPECT_EQ(cells(11), "9|9");
+}
+
+TEST_F(Panel, TheWheelChangesNothingWithoutTheFocus) {
+    select_with(24, "2", "2");
+    select_with(49, "algarve", "algarve");
+    for (const char* name : {"férocité_s", "aire"}) {
+        auto& turned = visible(name);
+        click("selection_text");
+        wheel(turned);
+        EXPECT_FALSE(session.provinces.has_unsaved_changes()) << name;
+        turned.setFocus();
+        wheel(turned);
+        EXPECT_TRUE(session.provinces.has_unsaved_changes()) << name;
+        session.provinces.mark_saved();
+    }
+}
+
+TEST_F(Panel, SelectionTexts) {
+    load(5, 1, "five");
+    select(QStringLiteral("5"));
+    EXPECT_EQ(shown("nom_province"), "five");
+    for (const char* beyond : {"2019", "1-99999999999"}) {
+        select(QString::fromLatin1(beyond));
+        const std::string text = boxes.take_one();
+        EXPECT_TRUE(text.starts_with("run_time_error: ")) << text;
+        EXPECT_NE(text.find("2019"), std::string::npos) << text;
+        EXPECT_EQ(shown("nom_province"), "five") << "the panel stays as it was";
+    }
+    EXPECT_TRUE(application.ends.empty()) << "the program goes on";
+    select({});
+    EXPECT_EQ(shown("nom_province"), "");
+    type("selection_text", QStringLiteral("5--7"));
+    EXPECT_EQ(shown("nom_province"), "") << "not applied yet";
+    click("Command1");
+    EXPECT_EQ(boxes.take_one(), "message: " + session.language.message(7));
+    type("selection_text", QStringLiteral("5x"));
+    click("Command1");
+    EXPECT_EQ(boxes.take_one(), "message: " + session.language.message(7));
+    EXPECT_EQ(shown("nom_province"), "five") << "applied as far as it reads";
+
+    QString long_text;
+    while (long_text.size() < 1'000'000)
+        long_text += QStringLiteral("1-2018;");
+    QApplication::clipboard()->setText(long_text);
+    auto& field = control<QLineEdit>("selection_text");
+    field.clear();
+    field.setFocus();
+    QElapsedTimer timer;
+    timer.start();
+    QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_LT(timer.elapsed(), 5000);
+    EXPECT_EQ(field.text().size(), long_text.size());
+    EXPECT_EQ(session.selection.provinces().size(), 2018U);
+}
+
+} // namespace
