@@ -40,8 +40,7 @@ bool has_display() {
 
 /// Tells on standard error how much of the province file was understood, and why nothing was.
 void report(const std::string& path, const data::ReadReport& read) {
-    std::cerr << shell::to_qstring(shell::shown_path(path)).toStdString()
-              << ": provinces read: " << read.provinces;
+    std::cerr << shell::to_utf8(shell::shown_path(path)) << ": provinces read: " << read.provinces;
     if (read.provinces == 0 && read.lines == 0)
         std::cerr << ": the file is empty";
     else if (read.provinces == 0 && !read.has_carriage_return)
@@ -89,8 +88,13 @@ int run(shell::Application& application, shell::Session& session, const shell::C
         line.folder.value_or(shell::stored_path(QApplication::applicationDirPath()));
     session.unattended = line.screenshot.has_value();
 
-    const shell::Termination termination([&](int status) { application.terminate(status); });
     shell::MDIForm1 frame(session);
+    const shell::Termination termination(
+        [&](int status) {
+            frame.write_typed_text();
+            application.terminate(status);
+        },
+        [&] { application.save_unsaved(); });
     if (line.screenshot) {
         obey(line, session, frame);
         save_picture(frame, *line.screenshot);

@@ -139,6 +139,10 @@ bool Panneau::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
+bool Panneau::anything_selected() const {
+    return !session_.selection.provinces().empty();
+}
+
 void Panneau::write(const std::string& value, data::FieldNumber field) {
     changement(session_.provinces, session_.selection, value, field);
 }
@@ -201,8 +205,10 @@ Panneau::Show Panneau::bind_group(const Field& field) {
         if (n < entries.size())
             option->setText(to_qstring(entries[n].text));
         group.add(option, n < entries.size() ? entries[n].code : std::string(),
-                  [this, &field](const std::string& code) {
+                  [this, &field, &group](const std::string& code) {
                       choose(session_.provinces, session_.selection, field, code);
+                      if (!anything_selected())
+                          group.show({});
                   });
     }
     return [&group](const std::string& value) { group.show(value); };
@@ -217,6 +223,8 @@ Panneau::Show Panneau::bind_list(const Field& field) {
         list->addItem(n < entries.size() ? to_qstring(entries[n].text) : QString());
     connect(list, &QComboBox::activated, this, [this, list, entries, items, &field] {
         write(shell::code_of_text(entries, items, to_bytes(list->currentText())), field.number);
+        if (!anything_selected())
+            list->setCurrentIndex(-1);
     });
     return [list, entries](const std::string& value) {
         list->setCurrentIndex(shell::index_of_code(entries, value));
@@ -230,7 +238,7 @@ Panneau::Show Panneau::bind_box(const Field& field) {
         box->setText(to_qstring(entries[field.list_entry].text));
     connect(box, &QAbstractButton::pressed, this, [this, box, &field] {
         const bool was_on = box->checkState() != Qt::Unchecked;
-        box->setChecked(!was_on);
+        box->setChecked(!was_on && anything_selected());
         write(std::string(value_after_press(field, was_on)), field.number);
     });
     return [box, &field](const std::string& value) { box->setChecked(is_checked(field, value)); };

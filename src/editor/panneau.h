@@ -67,6 +67,7 @@ class Panneau : public QWidget {
     Show bind_box(const Field& field);
     Show bind_label(const Field& field);
 
+    bool anything_selected() const;
     void write(const std::string& value, data::FieldNumber field);
 
     shell::Session& session_;

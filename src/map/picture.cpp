@@ -28,8 +28,7 @@ void Picture::paintEvent(QPaintEvent* event) {
     for (const QRect& exposed : event->region()) {
         painter.setClipRect(exposed);
         for (int top = exposed.top(); top <= exposed.bottom(); top += strip_height) {
-            const QRect strip =
-                QRect(exposed.left(), top, exposed.width(), strip_height) & exposed;
+            const QRect strip = QRect(exposed.left(), top, exposed.width(), strip_height) & exposed;
             const QSize needed = strip_.size().expandedTo(strip.size());
             if (needed != strip_.size())
                 strip_ = QImage(needed, QImage::Format_RGB32);

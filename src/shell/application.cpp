@@ -13,20 +13,6 @@
 
 namespace shell {
 
-namespace {
-
-/// Returns what became of the unsaved changes, empty where there were none.
-std::string recover(Session& session) {
-    try {
-        const auto path = write_recovery_copy(session);
-        return path ? "\nThe unsaved changes are in " + *path : std::string();
-    } catch (const std::exception& error) {
-        return std::string("\nThe unsaved changes could not be written: ") + error.what();
-    }
-}
-
-} // namespace
-
 Application::Application(int& argc, char** argv, Session& session, std::function<void(int)> end)
     : QApplication(argc, argv), session_(session), end_(std::move(end)) {
     setApplicationName(QStringLiteral("Province Editor"));
@@ -45,20 +31,26 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 void Application::fail(const std::exception& error) {
-    const std::string text = error.what() + recover(session_);
+    std::string text = error.what();
+    if (const std::string notice = recover(session_); !notice.empty())
+        text += "\n" + notice;
     const bool seen = platformName() != QLatin1String("offscreen") && !session_.unattended;
     if (!in_event_loop_ || !seen)
-        std::cerr << to_qstring(text).toStdString() << std::endl;
+        std::cerr << to_utf8(text) << std::endl;
     if (!session_.unattended)
         show_error_box(activeWindow(), text);
+    recover(session_); // while the box was open, room may have been made for it
     end_(EXIT_FAILURE);
 }
 
 void Application::terminate(int exit_status) {
-    const std::string text = recover(session_);
-    if (!text.empty())
-        std::cerr << to_qstring(text.substr(1)).toStdString() << std::endl;
+    save_unsaved();
     end_(exit_status);
+}
+
+void Application::save_unsaved() {
+    if (const std::string notice = recover(session_); !notice.empty())
+        std::cerr << to_utf8(notice) << std::endl;
 }
 
 } // namespace shell

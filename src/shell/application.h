@@ -25,6 +25,9 @@ class Application : public QApplication {
     /// Ends the program on the system's request, after the recovery copy is written.
     void terminate(int exit_status);
 
+    /// Writes the recovery copy, if there is anything to write, and tells of it on standard error.
+    void save_unsaved();
+
     void event_loop_begins() { in_event_loop_ = true; }
 
   private:

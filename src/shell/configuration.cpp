@@ -56,7 +56,8 @@ void read_configuration(std::string_view bytes, Configuration& configuration,
         try {
             take_record(record, configuration, receive);
         } catch (const data::RunTimeError& error) {
-            throw error.within("line " + std::to_string(line));
+            throw error.within("line " + std::to_string(line) + ", record " + record.kind + ", " +
+                               record.path + ", " + record.set_name);
         }
     }
 }

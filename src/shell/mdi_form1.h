@@ -57,6 +57,10 @@ class MDIForm1 : public QMainWindow {
 
     void set_selection_text(const std::string& text);
 
+    /// Writes a text that was typed and not yet left, as far as it may stand; asks and tells
+    /// nothing.
+    void write_typed_text();
+
   protected:
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -17,6 +17,9 @@
 
 #include <algorithm>
 #include <array>
+#include <exception>
+#include <iostream>
+#include <utility>
 
 namespace shell {
 
@@ -175,6 +178,7 @@ void MDIForm1::apply_selection(const std::string& text) {
     try {
         session_.selection.apply(text);
     } catch (const data::RunTimeError& error) {
+        panel_->forget_shown(); // it still shows what was selected before
         show_error(session_, this, error);
         return;
     }
@@ -183,14 +187,25 @@ void MDIForm1::apply_selection(const std::string& text) {
     panel_->show_selection();
 }
 
+void MDIForm1::write_typed_text() {
+    const bool was_unattended = std::exchange(session_.unattended, true);
+    try {
+        panel_->write_typed_text();
+    } catch (const std::exception&) {
+        // A number out of its range: nobody is there to mend it.
+    }
+    session_.unattended = was_unattended;
+}
+
 void MDIForm1::closeEvent(QCloseEvent* event) {
     panel_->write_typed_text();
     if (!session_.maps.id_map_path.empty() &&
         ask(session_, this, session_.language.message(save_question), DefaultAnswer::yes))
         enregister();
-    write_recovery_copy(session_);
     replace_file(in_folder(session_.program_folder, "config.txt"),
                  write_configuration(session_.configuration, session_.graphics.files));
+    if (const auto copy = write_recovery_copy(session_))
+        std::cerr << "The unsaved changes are in " << to_utf8(*copy) << std::endl;
     event->accept();
 }
 

@@ -6,23 +6,49 @@
 #include "shell/stored_path.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <exception>
 
 namespace shell {
+
+namespace {
+
+std::string replace_copy(const std::string& folder, const std::string& bytes) {
+    std::string path = in_folder(folder, "recovered.csv");
+    const QString old = native_path(in_folder(folder, "recovered-old.csv"));
+    if (QFileInfo::exists(native_path(path))) {
+        QFile::remove(old);
+        QFile::rename(native_path(path), old);
+    }
+    replace_file(path, bytes);
+    return path;
+}
+
+} // namespace
 
 std::optional<std::string> write_recovery_copy(Session& session) {
     if (!session.provinces.has_unsaved_changes())
         return std::nullopt;
-    constexpr auto name = "recovered.csv";
     const std::string bytes = data::write_provinces(session.provinces);
-    std::string path = in_folder(session.program_folder, name);
+    std::string path;
     try {
-        replace_file(path, bytes);
+        path = replace_copy(session.program_folder, bytes);
     } catch (const data::RunTimeError&) {
-        path = in_folder(stored_path(QDir::tempPath()), name);
-        replace_file(path, bytes);
+        path = replace_copy(stored_path(QDir::tempPath()), bytes);
     }
     session.provinces.mark_saved();
     return shown_path(path);
+}
+
+std::string recover(Session& session) {
+    try {
+        const auto path = write_recovery_copy(session);
+        return path ? "The unsaved changes are in " + *path : std::string();
+    } catch (const std::exception& error) {
+        return std::string("The unsaved changes could not be written: ") + error.what();
+    }
 }
 
 } // namespace shell

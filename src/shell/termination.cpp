@@ -7,6 +7,7 @@
 #include <QSocketNotifier>
 
 #include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -16,8 +17,12 @@ namespace {
 
 constexpr int signal_status = 128; // what a shell adds to a signal's number
 
-/// The only thing that a signal handler can reach: the writing end of a pipe.
+// What a signal handler and an exit handler can reach: the writing end of a pipe, and a function.
 int pipe_end = -1;
+std::function<void()>& at_exit() {
+    static std::function<void()> function;
+    return function;
+}
 
 extern "C" void forward_signal(int number) {
     const auto byte = static_cast<unsigned char>(number);
@@ -27,7 +32,12 @@ extern "C" void forward_signal(int number) {
 
 } // namespace
 
-Termination::Termination(std::function<void(int)> requested) {
+Termination::Termination(std::function<void(int)> requested, std::function<void()> dropped) {
+    at_exit() = std::move(dropped); // made before the handler is registered, so it outlives it
+    std::atexit([] {
+        if (at_exit())
+            at_exit()();
+    });
     int ends[2] = {-1, -1};
     if (::pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0)
         return;
@@ -43,12 +53,17 @@ Termination::Termination(std::function<void(int)> requested) {
         std::signal(number, forward_signal);
 }
 
+Termination::~Termination() {
+    at_exit() = nullptr;
+}
+
 } // namespace shell
 
 #else
 
 namespace shell {
-Termination::Termination(std::function<void(int)>) {}
+Termination::Termination(std::function<void(int)>, std::function<void()>) {}
+Termination::~Termination() = default;
 } // namespace shell
 
 #endif

@@ -6,12 +6,16 @@
 
 namespace shell {
 
-/// Turns the system's requests to end (SIGTERM, SIGINT, SIGHUP) into calls on the user-interface
-/// thread, where files can be written. Does nothing on systems without such signals.
+/// Tells of ends that the program did not choose, one at a time in a process. On systems without
+/// signals it does nothing.
 class Termination : public QObject {
   public:
-    /// `requested` is called with the exit status that tells of the signal.
-    explicit Termination(std::function<void(int)> requested);
+    /// `requested` is called on the user-interface thread when the system asks the program to end
+    /// (SIGTERM, SIGINT, SIGHUP), with the exit status that tells of the signal. `dropped` is
+    /// called when a library ends the process under the program, as happens when the display is
+    /// gone.
+    Termination(std::function<void(int)> requested, std::function<void()> dropped);
+    ~Termination() override;
 };
 
 } // namespace shell
