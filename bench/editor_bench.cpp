@@ -38,7 +38,7 @@ data::ProvinceTable full_table() {
 void read_file(benchmark::State& state) {
     const std::string bytes = write_provinces(full_table());
     data::ProvinceTable table;
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(data::read_provinces(bytes, table));
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
 }
@@ -46,7 +46,7 @@ BENCHMARK(read_file)->Unit(benchmark::kMillisecond);
 
 void read_file_into_empty_table(benchmark::State& state) {
     const std::string bytes = write_provinces(full_table());
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         state.PauseTiming();
         auto table = std::make_unique<data::ProvinceTable>();
         state.ResumeTiming();
@@ -62,7 +62,7 @@ BENCHMARK(read_file_into_empty_table)->Unit(benchmark::kMillisecond);
 void write_file(benchmark::State& state) {
     const auto table = full_table();
     std::size_t size = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const std::string bytes = write_provinces(table);
         size = bytes.size();
         benchmark::DoNotOptimize(bytes.data());
@@ -80,7 +80,7 @@ void merge_all_fields_of_all_provinces(benchmark::State& state) {
     }
     editor::Selection selection;
     selection.apply(all_provinces);
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(merged_values(table, selection));
 }
 BENCHMARK(merge_all_fields_of_all_provinces)->Unit(benchmark::kMicrosecond);
@@ -90,7 +90,7 @@ void write_a_value_into_all_provinces(benchmark::State& state) {
     editor::Selection selection;
     selection.apply(all_provinces);
     bool other = false;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         changement(table, selection, other ? "12" : "a rather long text for a cell", {1});
         other = !other;
     }
@@ -122,7 +122,7 @@ void apply_selection_until_the_panel_is_shown(benchmark::State& state) {
     frame.show();
     QApplication::processEvents();
     bool all = true;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         frame.apply_selection(all ? all_provinces : "5");
         QApplication::processEvents(); // paints
         all = !all;
@@ -132,7 +132,7 @@ BENCHMARK(apply_selection_until_the_panel_is_shown)->Unit(benchmark::kMillisecon
 
 void start_until_the_main_frame_is_shown(benchmark::State& state) {
     const Program program;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const auto session = program.session();
         shell::MDIForm1 frame(*session);
         frame.show();

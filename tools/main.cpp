@@ -46,16 +46,16 @@ std::optional<sample::Request> to_request(int argc, char** argv) {
             if (!request.folder.empty())
                 return std::nullopt;
             request.folder = option;
-        } else if (index + 1 == argc) {
-            return std::nullopt;
-        } else if (option == "--language") {
-            request.language = argv[++index];
-        } else if (const auto size = to_size(argv[index + 1]); option == "--size" && size) {
-            request.pixels = *size;
-            ++index;
-        } else {
-            return std::nullopt;
+            continue;
         }
+        const char* value = ++index < argc ? argv[index] : "";
+        const auto size = to_size(value);
+        if (option == "--language" && *value != '\0')
+            request.language = value;
+        else if (option == "--size" && size)
+            request.pixels = *size;
+        else
+            return std::nullopt;
     }
     return request.folder.empty() ? std::nullopt : std::optional(request);
 }

@@ -36,10 +36,10 @@ constexpr std::array<Picture, 12> pictures = {{
 enum class Style { usual, frames_first };
 
 struct SpriteSet {
-    gfx::SpriteKind kind;
-    const char* file; // without ".spr"
-    const char* name;
-    std::array<const char*, 2> pictures; // the second one may be missing
+    gfx::SpriteKind kind{};
+    const char* file = nullptr; // without ".spr"
+    const char* name = nullptr;
+    std::array<const char*, 2> pictures{}; // the second one may be missing
     Style style = Style::usual;
     bool fills_a_set = true;
 };

@@ -98,6 +98,7 @@ void divide_regions(World& world) {
     for (std::size_t region = 0; region < regions().size(); ++region) {
         const auto ids = members(world, Ground::land, region);
         std::vector<Point> centres;
+        centres.reserve(ids.size());
         for (const int id : ids)
             centres.push_back(world.provinces[static_cast<std::size_t>(id)].centre);
         const auto areas = words(regions()[region].areas).size();

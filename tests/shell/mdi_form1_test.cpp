@@ -246,6 +246,15 @@ TEST_F(MDIForm1, ClosingAsksOnlyWhenMapsAreOpen) {
     close();
     EXPECT_EQ(boxes.take().size(), 1U);
     EXPECT_NE(file("recovered.csv").find("\r\n5;answered with No;"), std::string::npos);
+    frame.reset();
+
+    start();
+    session.maps = {};
+    select("5");
+    enter("nom_province", "newer");
+    close();
+    EXPECT_NE(file("recovered.csv").find("\r\n5;newer;"), std::string::npos);
+    EXPECT_NE(file("recovered-old.csv").find("\r\n5;answered with No;"), std::string::npos);
 }
 
 TEST_F(MDIForm1, TheMapTakesTheFocusWhenPressed) {
