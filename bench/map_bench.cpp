@@ -156,7 +156,7 @@ void memory_of_three_maps(benchmark::State& state) {
             QCoreApplication::processEvents();
         }
         session->selection.apply("1-2018");
-        window->selection_changed();
+        window->selection_or_mode_changed();
         QCoreApplication::processEvents();
         state.counters["MB"] = memory() - before;
     }
@@ -226,7 +226,7 @@ void click_to_dots_painted(benchmark::State& state) {
     const auto window = shown_window(*session);
     QObject::connect(window.get(), &map::Form1::province_clicked, window.get(), [&](int province) {
         session->selection.apply(std::to_string(province));
-        window->selection_changed();
+        window->selection_or_mode_changed();
     });
     QWidget* surface = shown_surface(*window);
     RandomPlace place;

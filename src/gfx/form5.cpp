@@ -16,6 +16,7 @@ namespace gfx {
 namespace {
 
 constexpr int message_name_missing = 4;
+constexpr int smallest_width = 320; // pixels, for the title
 
 } // namespace
 
@@ -36,6 +37,7 @@ Form5::Form5(shell::Session& session, QWidget* owner)
     confirm->setDefault(true);
     connect(confirm, &QPushButton::clicked, this, &Form5::confirm);
 
+    setMinimumWidth(smallest_width);
     auto* column = new QVBoxLayout(this);
     column->addWidget(label);
     column->addWidget(name_);

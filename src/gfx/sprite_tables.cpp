@@ -53,8 +53,9 @@ void take_bitmap(const Line& line, std::size_t key_end, Sprite& sprite) {
 }
 
 void take_origin(const Line& line, std::size_t key_end, Sprite& sprite) {
-    sprite.origin_x = coordinate(line, key_end, "x");
+    const auto x = coordinate(line, key_end, "x");
     sprite.origin_y = coordinate(line, key_end, "y");
+    sprite.origin_x = x; // a sprite has both or none
 }
 
 void take_frames(const Line& line, std::size_t key_end, Sprite& sprite) {
@@ -104,15 +105,11 @@ void SpriteTables::read_descriptor(std::string_view bytes, std::string_view kind
             const auto found = find_ignoring_case(line.text, key.word);
             if (found == npos)
                 continue;
-            // The value is read first: a malformed line is an error for an unknown kind, too.
-            Sprite read;
-            key.take(line, found + key.word.size(), read);
-            if (!known_kind)
-                continue;
-            SpriteTable& table = of(*known_kind);
-            key.take(line, found + key.word.size(), current_row(table, line));
-            if (++keys_of_this_sprite == static_cast<int>(keys.size())) {
-                ++table.count;
+            Sprite unused; // a malformed line is an error for an unknown kind, too
+            key.take(line, found + key.word.size(),
+                     known_kind ? current_row(of(*known_kind), line) : unused);
+            if (known_kind && ++keys_of_this_sprite == static_cast<int>(keys.size())) {
+                ++of(*known_kind).count;
                 keys_of_this_sprite = 0;
             }
         }

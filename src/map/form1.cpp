@@ -101,6 +101,11 @@ void Form1::show_map(Shown which) {
     Picture* shown = pictures_.at(static_cast<std::size_t>(which));
     if (shown == nullptr)
         return;
+    // A surface that is hidden with the focus on it would leave the scrolling to Qt.
+    const bool has_focus = surfaces_->isAncestorOf(QApplication::focusWidget());
+    shown->show();
+    if (has_focus)
+        shown->setFocus();
     for (Picture* picture : pictures_) {
         if (picture != nullptr)
             picture->setVisible(picture == shown);
@@ -116,12 +121,7 @@ void Form1::refresh() {
     }
 }
 
-void Form1::selection_changed() {
-    work_out_dots();
-    refresh();
-}
-
-void Form1::mode_changed() {
+void Form1::selection_or_mode_changed() {
     work_out_dots();
     refresh();
 }
@@ -205,20 +205,28 @@ void Form1::select(int province, ShiftState shift) {
 void Form1::enter_position(const QMouseEvent& event, int province) {
     const Click click{button_of(event.button()), shift_state(event.modifiers()), pressed_.x(),
                       data::to_int16(pressed_.y(), "Y of the press on the map"), province};
+    const QRect before = overlay_.bounds(province);
     if (map::enter_position(session_.mode, click, session_.maps, session_.port_placement,
-                            session_.provinces))
+                            session_.provinces)) {
         refresh();
+    } else { // the port that waits for its sea has moved, too
+        update_shown(before);
+        update_shown(overlay_.bounds(province));
+    }
+}
+
+void Form1::update_shown(const QRect& changed) {
+    for (Picture* picture : pictures_) {
+        if (picture != nullptr)
+            picture->update(changed);
+    }
 }
 
 void Form1::point_at(int province) {
     const int before = std::exchange(pointed_province_, province);
     if (before != province && session_.mode != Mode::normal) {
-        for (const int changed : {before, province}) {
-            for (Picture* picture : pictures_) {
-                if (picture != nullptr)
-                    picture->update(overlay_.bounds(changed));
-            }
-        }
+        update_shown(overlay_.bounds(before));
+        update_shown(overlay_.bounds(province));
     }
     emit pointed(province);
 }

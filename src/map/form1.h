@@ -42,8 +42,7 @@ class Form1 : public QWidget {
     void refresh();
 
     /// Redraws the maps for another selection or another mode, which both change the dots.
-    void selection_changed();
-    void mode_changed();
+    void selection_or_mode_changed();
 
   signals:
     /// The pointer moved over the province while no button was held.
@@ -80,6 +79,7 @@ class Form1 : public QWidget {
     void click(const QMouseEvent& event);
     void select(int province, ShiftState shift);
     void enter_position(const QMouseEvent& event, int province);
+    void update_shown(const QRect& changed);
     void point_at(int province);
     std::optional<Place> place_at(const QPointF& position) const;
     void work_out_dots();

@@ -171,8 +171,8 @@ OverlayPreview::Look OverlayPreview::sprite_look(gfx::SpriteKind kind) const {
     const auto& rows = session_.graphics.sprites.of(kind).rows;
     const auto row = static_cast<std::size_t>(session_.graphics.previewed(kind));
     if (row >= rows.size() || rows[row].bitmap_path.empty())
-        return marker_look(QStringLiteral("No sprite set of the kind \"%1\" is loaded")
-                               .arg(shell::to_qstring(gfx::info(kind).word)));
+        return marker_look(
+            QStringLiteral("The item that the graphics menu has checked holds no sprite set"));
     const auto& sprite = rows[row];
     const Bitmap& bitmap = bitmaps_.first_frame(sprite.bitmap_path, sprite.frames);
     if (bitmap.image.isNull())

@@ -16,7 +16,6 @@ namespace shell {
 Application::Application(int& argc, char** argv, Session& session, std::function<void(int)> end)
     : QApplication(argc, argv), session_(session), end_(std::move(end)) {
     setApplicationName(QStringLiteral("Province Editor"));
-    setApplicationDisplayName(applicationName());
     setWindowIcon(program_icon());
     setApplicationVersion(QStringLiteral(PROVINCE_EDITOR_VERSION));
 }

@@ -176,6 +176,7 @@ QAction* MDIForm1::action(std::string_view name) const {
 }
 
 void MDIForm1::show_status_text(int number) {
+    statusBar()->clearMessage(); // a reason from the mode before would hide the text
     mode_text_->setText(to_qstring(session_.language.status(number)));
 }
 

@@ -107,7 +107,7 @@ void MDIForm1::enter_mode(map::Mode mode) {
     check_mode();
     panel_->setVisible(mode == map::Mode::normal);
     if (auto* map = map_window())
-        map->mode_changed();
+        map->selection_or_mode_changed();
     if (mode == map::Mode::normal) {
         panel_->show_selection(); // clicks in the mode that ends may have moved what it shows
         options();
@@ -183,7 +183,7 @@ void MDIForm1::apply_selection(const std::string& text) {
         return;
     }
     if (map_)
-        map_->selection_changed();
+        map_->selection_or_mode_changed();
     panel_->show_selection();
 }
 

@@ -23,12 +23,13 @@ constexpr int problem_time = 15000; // milliseconds that a reason stays in the s
 struct MapItem {
     std::string_view name;
     map::Shown shown;
+    std::string map::Maps::*path;
 };
 
 constexpr std::array<MapItem, 3> map_items = {{
-    {"carte_1", map::Shown::map_1},
-    {"carte_2", map::Shown::map_2},
-    {"carte_id", map::Shown::id_map},
+    {"carte_1", map::Shown::map_1, &map::Maps::map_1_path},
+    {"carte_2", map::Shown::map_2, &map::Maps::map_2_path},
+    {"carte_id", map::Shown::id_map, &map::Maps::id_map_path},
 }};
 
 } // namespace
@@ -57,7 +58,6 @@ void MDIForm1::make_map_window() {
     map_ = map.get();
     map_frame_ = workspace_->addSubWindow(map.release());
     map_frame_->setAttribute(Qt::WA_DeleteOnClose);
-    map_frame_->setWindowTitle(QFileInfo(native_path(session_.maps.map_1_path)).fileName());
     connect(map_, &map::Form1::pointed, this, [this](int province) {
         pointer_text_->setText(QStringLiteral("id = %1").arg(province));
     });
@@ -83,8 +83,11 @@ void MDIForm1::show_map(map::Shown shown) {
 }
 
 void MDIForm1::check_map(map::Shown shown) {
-    for (const auto& item : map_items)
+    for (const auto& item : map_items) {
         action(item.name)->setChecked(item.shown == shown);
+        if (item.shown == shown)
+            map_frame_->setWindowTitle(QFileInfo(native_path(session_.maps.*item.path)).fileName());
+    }
 }
 
 void MDIForm1::fit_map_window() {

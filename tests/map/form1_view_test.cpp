@@ -12,7 +12,7 @@ TEST_F(Form1, MarksWhereThingsStand) {
     const QImage with_city = seen();
     EXPECT_NE(with_city.pixel(350, 250), paper);
     session.mode = Mode::armees;
-    form->mode_changed();
+    form->selection_or_mode_changed();
     EXPECT_EQ(seen().pixel(350, 250), paper);
 }
 
@@ -58,7 +58,7 @@ TEST_F(Form1, RepaintsOnlyWhatThePointedProvinceChanges) {
 TEST_F(Form1, DotsTheSelection) {
     open();
     session.selection.apply("1;12");
-    form->selection_changed();
+    form->selection_or_mode_changed();
     QImage image = seen();
     for (int y = 0; y < height; y += map::dot_spacing) {
         for (int x = 0; x < width; x += map::dot_spacing) {
@@ -82,10 +82,10 @@ TEST_F(Form1, DotsTheSelection) {
     form->show_map(map::Shown::id_map);
     EXPECT_EQ(seen("Picture_id").pixel(20, 20), 0xFF000000);
     session.mode = Mode::ville;
-    form->mode_changed();
+    form->selection_or_mode_changed();
     EXPECT_EQ(seen("Picture_id").pixel(20, 20), 0xFF800000) << "in normal mode only";
     session.mode = Mode::normal;
-    form->mode_changed();
+    form->selection_or_mode_changed();
     EXPECT_EQ(seen("Picture_id").pixel(20, 20), 0xFF000000);
 }
 
@@ -101,7 +101,7 @@ TEST_F(Form1, ForeignColourAtAPointOfTheGridIsReportedOnce) {
         << boxes.texts[0];
     EXPECT_EQ(seen().pixel(40, 60), paper);
     EXPECT_EQ(seen().pixel(60, 60), 0xFF000000) << "the other dots are there";
-    form->selection_changed();
+    form->selection_or_mode_changed();
     QTest::qWait(50);
     EXPECT_EQ(boxes.texts.size(), 1U);
 }
@@ -134,6 +134,17 @@ TEST_F(Form1, OverflowOfYIsAnError) {
     EXPECT_EQ(city(1), "10,32767");
     EXPECT_THROW(click({10, 68}), data::RunTimeError);
     EXPECT_EQ(city(1), "10,32767");
+}
+
+TEST_F(Form1, AnotherMapShowsTheSamePlace) {
+    open({400, 300});
+    click({50, 150});
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
+    const QPoint corner_before = corner();
+    ASSERT_NE(corner_before, QPoint(0, 0));
+    form->show_map(map::Shown::id_map);
+    EXPECT_EQ(-surface("Picture_id")->mapTo(form.get(), QPoint(0, 0)), corner_before);
+    EXPECT_TRUE(surface("Picture_id")->hasFocus());
 }
 
 TEST_F(Form1, ScrollsByWheelAndKeyboard) {
@@ -204,7 +215,7 @@ TEST_F(Form1, SurvivesItsFiles) {
     click({450, 350});
     EXPECT_EQ(clicked, "");
     session.selection.apply("1");
-    form->selection_changed();
+    form->selection_or_mode_changed();
     EXPECT_EQ(seen().pixel(0, 0), 0xFF808080);
     folder.write("id.bmp", id_map());
     click({450, 350});

@@ -206,7 +206,7 @@ TEST_F(OverlayPreviewTest, MarkerStaysWithoutAPictureAndSaysWhyOnce) {
     EXPECT_EQ(covered(painted()), marker(20, 20) | marker(60, 20));
     painted();
     ASSERT_EQ(problems.size(), 1);
-    EXPECT_TRUE(problems[0].contains("ville")) << problems[0].toStdString();
+    EXPECT_TRUE(problems[0].contains("no sprite set")) << problems[0].toStdString();
 
     QFile(folder.filePath("text.bmp")).open(QIODevice::WriteOnly);
     for (const char* name : {"missing.bmp", "text.bmp", "bmp"}) {
