@@ -123,7 +123,7 @@ void apply_selection_until_the_panel_is_shown(benchmark::State& state) {
     QApplication::processEvents();
     bool all = true;
     for ([[maybe_unused]] auto _ : state) {
-        frame.apply_selection(all ? all_provinces : "5");
+        frame.select(all ? all_provinces : "5");
         QApplication::processEvents(); // paints
         all = !all;
     }

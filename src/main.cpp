@@ -61,17 +61,15 @@ void obey(const shell::CommandLine& line, shell::Session& session, shell::MDIFor
         session.maps = *line.maps;
         frame.open_maps();
     }
-    if (line.select) {
-        frame.set_selection_text(*line.select);
-        frame.apply_selection(*line.select);
-    }
+    if (line.select)
+        frame.select(*line.select);
 }
 
 void save_picture(QWidget& frame, const QString& file) {
     frame.show();
     QApplication::processEvents();
     if (!frame.grab().save(file, "PNG"))
-        throw std::runtime_error("The picture could not be written to " + file.toStdString());
+        throw std::runtime_error("The picture could not be written to " + shell::to_bytes(file));
 }
 
 /// A frame that its screen could not hold together with its title bar takes the whole screen.
@@ -91,7 +89,7 @@ int run(shell::Application& application, shell::Session& session, const shell::C
     shell::MDIForm1 frame(session);
     const shell::Termination termination(
         [&](int status) {
-            frame.write_typed_text();
+            frame.keep_typed_text();
             application.terminate(status);
         },
         [&] { application.save_unsaved(); });

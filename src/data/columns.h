@@ -15,7 +15,6 @@ struct FileColumn {
 /// Column of the province table, 0 to 57.
 struct TableColumn {
     int index;
-    friend constexpr bool operator==(TableColumn, TableColumn) = default;
 };
 
 /// Number of a field in the editor panel, 1 to 58.
@@ -37,11 +36,6 @@ constexpr TableColumn table_column(FileColumn column) {
 /// Returns the file column that the table column is read from and written to.
 constexpr FileColumn file_column(TableColumn column) {
     return {column.index + 2};
-}
-
-/// Returns the field that the panel shows for the table column.
-constexpr FieldNumber field_number(TableColumn column) {
-    return {column.index + 1};
 }
 
 inline constexpr int file_columns = 59;

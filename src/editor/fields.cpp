@@ -1,7 +1,6 @@
 #include "editor/fields.h"
 
 #include "data/numbers.h"
-#include "data/run_time_error.h"
 #include "data/text.h"
 
 #include <algorithm>

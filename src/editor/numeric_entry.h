@@ -31,9 +31,10 @@ class NumericEntry : public QObject {
     /// Takes the text as the field is left. After a warning nothing is stored until the user types.
     void leave();
 
-  private:
     /// Stores the text, or empties the field and returns false.
     bool store();
+
+  private:
     void warn();
     void set_slider(int position);
 

@@ -190,6 +190,8 @@ void align(QWidget& panel) {
     QHash<QString, int> widths;
     const auto widgets = panel.findChildren<QWidget*>();
     for (const QWidget* widget : widgets) {
+        if (!widget->property(aligned_with).isValid())
+            continue;
         int& width = widths[widget->property(aligned_with).toString()];
         width = std::max(width, widget->sizeHint().width());
     }

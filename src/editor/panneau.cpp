@@ -147,6 +147,13 @@ void Panneau::write(const std::string& value, data::FieldNumber field) {
     changement(session_.provinces, session_.selection, value, field);
 }
 
+void Panneau::keep_typed_text() {
+    for (const auto& entry : entries_) {
+        if (entry.field->isModified())
+            entry.keep();
+    }
+}
+
 Panneau::Show Panneau::bind(const Field& field) {
     switch (field.shown) {
     case Shown::nowhere:
@@ -178,7 +185,7 @@ Panneau::Show Panneau::bind_text(const Field& field) {
     };
     connect(text, &EntryField::entered, this, store);
     connect(text, &EntryField::left, this, store);
-    entries_.push_back({text, store});
+    entries_.push_back({text, store, store});
     return [text](const std::string& value) { text->show_bytes(value); };
 }
 
@@ -192,7 +199,7 @@ Panneau::Show Panneau::bind_slider(const Field& field) {
     auto* entry = new NumericEntry(
         *numeric, *text, *slider, session_,
         [this, number = field.number](const std::string& value) { write(value, number); });
-    entries_.push_back({text, [entry] { entry->enter(); }});
+    entries_.push_back({text, [entry] { entry->enter(); }, [entry] { entry->store(); }});
     return [entry](const std::string& value) { entry->show(value); };
 }
 
@@ -237,7 +244,7 @@ Panneau::Show Panneau::bind_box(const Field& field) {
     if (field.list_entry < entries.size())
         box->setText(to_qstring(entries[field.list_entry].text));
     connect(box, &QAbstractButton::pressed, this, [this, box, &field] {
-        const bool was_on = box->checkState() != Qt::Unchecked;
+        const bool was_on = box->isChecked();
         box->setChecked(!was_on && anything_selected());
         write(std::string(value_after_press(field, was_on)), field.number);
     });

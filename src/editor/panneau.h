@@ -13,7 +13,6 @@
 #include <vector>
 
 class QLineEdit;
-class QSlider;
 
 namespace editor {
 
@@ -40,6 +39,9 @@ class Panneau : public QWidget {
     /// Writes a text that was typed into a field which was not left since.
     void write_typed_text();
 
+    /// Writes it as far as it may stand, without a word.
+    void keep_typed_text();
+
   signals:
     void selection_entered(); ///< The selection text is to be applied.
 
@@ -54,6 +56,7 @@ class Panneau : public QWidget {
     struct Entry {
         EntryField* field;
         std::function<void()> store;
+        std::function<void()> keep; // the same, without a word about a number out of its range
     };
 
     QWidget* build_selection_row();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QMouseEvent>
 
 namespace editor {
 
@@ -11,6 +12,7 @@ class PressBox : public QCheckBox {
 
   protected:
     void nextCheckState() override {}
+    void mouseMoveEvent(QMouseEvent*) override {} // coming back with the button held is no press
 };
 
 } // namespace editor

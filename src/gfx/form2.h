@@ -5,7 +5,6 @@
 #include <array>
 #include <string>
 
-class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;

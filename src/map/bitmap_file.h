@@ -19,7 +19,6 @@ inline constexpr Pixel no_pixel = 0;
 struct Channel {
     unsigned shift = 0;
     unsigned bits = 0; // 1 to 32
-    friend bool operator==(const Channel&, const Channel&) = default;
 };
 
 /// How the pixels lie in the file.

@@ -57,7 +57,6 @@ Form1::Form1(shell::Session& session, QWidget* parent)
       map_1_(session.maps.map_1_path),
       map_2_(open_optional(session.maps.map_2_path)),
       id_map_(session.maps.id_map_path),
-      id_copy_(id_map_),
       overlay_(session),
       scroll_area_(new QScrollArea(this)),
       surfaces_(new QWidget) {
@@ -205,7 +204,7 @@ void Form1::select(int province, ShiftState shift) {
 void Form1::enter_position(const QMouseEvent& event, int province) {
     const Click click{button_of(event.button()), shift_state(event.modifiers()), pressed_.x(),
                       data::to_int16(pressed_.y(), "Y of the press on the map"), province};
-    const QRect before = overlay_.bounds(province);
+    const QRect before = session_.mode == Mode::port ? overlay_.bounds(province) : QRect();
     if (map::enter_position(session_.mode, click, session_.maps, session_.port_placement,
                             session_.provinces)) {
         refresh();
@@ -234,7 +233,7 @@ void Form1::point_at(int province) {
 std::optional<Form1::Place> Form1::place_at(const QPointF& position) const {
     const QPoint point(static_cast<int>(std::floor(position.x())),
                        static_cast<int>(std::floor(position.y())));
-    const auto colour = id_copy_.colour_at(point);
+    const auto colour = id_map_.colour_at(point);
     if (!colour)
         return {};
     return Place{point, *colour, province_of(*colour)};
@@ -247,7 +246,7 @@ void Form1::work_out_dots() {
         dots_ = {};
         return;
     }
-    MapReader reader(id_copy_);
+    MapReader reader(id_map_);
     dots_ = SelectionDots(
         map_1_.size().width(), map_1_.size().height(), session_.selection,
         [&reader](int y, std::span<Pixel> pixels) { reader.read_row(y, 0, dot_spacing, pixels); });

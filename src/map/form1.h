@@ -90,8 +90,7 @@ class Form1 : public QWidget {
     shell::Session& session_;
     MapImage map_1_;
     std::optional<MapImage> map_2_;
-    MapImage id_map_;
-    MapImage id_copy_; // Picture_id2: every colour is read here, whichever map is shown
+    MapImage id_map_; // every colour is read here, whichever map is shown
 
     OverlayPreview overlay_;
     SelectionDots dots_;

@@ -5,8 +5,6 @@
 #include "shell/qt_text.h"
 #include "shell/recovery.h"
 
-#include <QMessageBox>
-
 #include <iostream>
 #include <string>
 #include <utility>
@@ -38,7 +36,7 @@ void Application::fail(const std::exception& error) {
         std::cerr << to_utf8(text) << std::endl;
     if (!session_.unattended)
         show_error_box(activeWindow(), text);
-    recover(session_); // while the box was open, room may have been made for it
+    save_unsaved(); // while the box was open, room may have been made for it
     end_(EXIT_FAILURE);
 }
 

@@ -9,6 +9,9 @@
 
 namespace shell {
 
+/// Name of the configuration file in the program's folder.
+inline constexpr std::string_view configuration_file = "config.txt";
+
 /// What the editor remembers between two runs besides its sprite sets. Paths are stored paths.
 struct Configuration {
     std::string graphics_folder = "c:";

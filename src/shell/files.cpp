@@ -22,7 +22,7 @@ using data::RunTimeError;
     throw RunTimeError(number, to_bytes(QDir::toNativeSeparators(path) + ": " + reason));
 }
 
-/// Returns what an access to the path fails with before the file itself is opened.
+/// Throws what an access to the path fails with before the file itself is opened.
 void check_place(const QString& path) {
     const QFileInfo file(path);
     if (file.exists() && !file.isFile())

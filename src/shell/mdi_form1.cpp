@@ -27,7 +27,6 @@ namespace shell {
 
 namespace {
 
-constexpr auto configuration_file = "config.txt";
 constexpr qsizetype most_languages = 10;
 constexpr QSize first_size(1280, 720);
 constexpr std::array position_items = {"ville_menu", "armées_menu", "manuf_menu", "port_menu",
@@ -154,8 +153,7 @@ void MDIForm1::build_workspace() {
     row->addWidget(workspace_, 1);
     row->addWidget(panel_);
     setCentralWidget(middle);
-    connect(panel_, &editor::Panneau::selection_entered, this,
-            [this] { apply_selection(panel_->selection_text()); });
+    connect(panel_, &editor::Panneau::selection_entered, this, [this] { apply_selection(); });
 }
 
 void MDIForm1::build_status_bar() {

@@ -3,7 +3,6 @@
 #include "data/province_file.h"
 #include "gfx/sprite_kind.h"
 #include "map/form1.h"
-#include "map/maps.h"
 #include "map/mode.h"
 #include "shell/session.h"
 
@@ -53,13 +52,11 @@ class MDIForm1 : public QMainWindow {
     // What the commands do once their dialogs are confirmed.
     data::ReadReport open_province_file();
     void open_maps();
-    void apply_selection(const std::string& text);
+    /// Selects what the text names, as if it had been typed and entered.
+    void select(const std::string& text);
 
-    void set_selection_text(const std::string& text);
-
-    /// Writes a text that was typed and not yet left, as far as it may stand; asks and tells
-    /// nothing.
-    void write_typed_text();
+    /// Writes a text that was typed and not yet left, as far as it may stand, without a word.
+    void keep_typed_text();
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -78,6 +75,7 @@ class MDIForm1 : public QMainWindow {
     void options();
 
     QAction* action(std::string_view name) const;
+    void apply_selection();
     void show_status_text(int number);
     void check_mode();
     void check_map(map::Shown shown);
@@ -94,6 +92,7 @@ class MDIForm1 : public QMainWindow {
     QMdiArea* workspace_ = nullptr;
     QPointer<QMdiSubWindow> map_frame_;
     QPointer<map::Form1> map_;
+    QRect fitted_; // where the map window was put last; its frame's place in the workspace
     QLabel* mode_text_ = nullptr;
     QLabel* pointer_text_ = nullptr;
     bool is_first_run_ = false;

@@ -17,9 +17,7 @@
 
 #include <algorithm>
 #include <array>
-#include <exception>
 #include <iostream>
-#include <utility>
 
 namespace shell {
 
@@ -167,11 +165,13 @@ void MDIForm1::propos() {
     frmAbout(session_, this).exec();
 }
 
-void MDIForm1::set_selection_text(const std::string& text) {
+void MDIForm1::select(const std::string& text) {
     panel_->set_selection_text(text);
+    apply_selection();
 }
 
-void MDIForm1::apply_selection(const std::string& text) {
+void MDIForm1::apply_selection() {
+    const std::string text = panel_->selection_text();
     panel_->write_typed_text(); // a shortcut selects without taking the focus from a field
     if (!editor::is_well_formed(text))
         show_message(session_, this, session_.language.message(malformed_selection));
@@ -187,14 +187,8 @@ void MDIForm1::apply_selection(const std::string& text) {
     panel_->show_selection();
 }
 
-void MDIForm1::write_typed_text() {
-    const bool was_unattended = std::exchange(session_.unattended, true);
-    try {
-        panel_->write_typed_text();
-    } catch (const std::exception&) {
-        // A number out of its range: nobody is there to mend it.
-    }
-    session_.unattended = was_unattended;
+void MDIForm1::keep_typed_text() {
+    panel_->keep_typed_text();
 }
 
 void MDIForm1::closeEvent(QCloseEvent* event) {
@@ -202,10 +196,10 @@ void MDIForm1::closeEvent(QCloseEvent* event) {
     if (!session_.maps.id_map_path.empty() &&
         ask(session_, this, session_.language.message(save_question), DefaultAnswer::yes))
         enregister();
-    replace_file(in_folder(session_.program_folder, "config.txt"),
+    replace_file(in_folder(session_.program_folder, configuration_file),
                  write_configuration(session_.configuration, session_.graphics.files));
-    if (const auto copy = write_recovery_copy(session_))
-        std::cerr << "The unsaved changes are in " << to_utf8(*copy) << std::endl;
+    if (const std::string notice = write_recovery_copy(session_); !notice.empty())
+        std::cerr << to_utf8(notice) << std::endl;
     event->accept();
 }
 

@@ -63,8 +63,7 @@ void MDIForm1::make_map_window() {
     });
     connect(map_, &map::Form1::province_clicked, this, [this](int province, bool add) {
         const std::string present = add ? panel_->selection_text() : std::string();
-        panel_->set_selection_text(editor::with_province(present, province));
-        apply_selection(panel_->selection_text());
+        select(editor::with_province(present, province));
     });
     connect(map_, &map::Form1::problem, this,
             [this](const QString& reason) { statusBar()->showMessage(reason, problem_time); });
@@ -94,12 +93,14 @@ void MDIForm1::fit_map_window() {
     if (!map_frame_ || map_frame_->isMaximized() || map_frame_->isMinimized())
         return;
     const auto room = workspace_->viewport()->size();
-    map_frame_->setGeometry({QPoint(0, 0), map_frame_->sizeHint().boundedTo(room)});
+    fitted_ = {QPoint(0, 0), map_frame_->sizeHint().boundedTo(room)};
+    map_frame_->setGeometry(fitted_);
 }
 
 bool MDIForm1::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Resize && watched == workspace_->viewport())
-        fit_map_window();
+    const bool is_as_fitted = map_frame_ && map_frame_->geometry() == fitted_;
+    if (event->type() == QEvent::Resize && watched == workspace_->viewport() && is_as_fitted)
+        fit_map_window(); // where the user has put it elsewhere, it stays
     return QMainWindow::eventFilter(watched, event);
 }
 

@@ -28,9 +28,9 @@ std::string replace_copy(const std::string& folder, const std::string& bytes) {
 
 } // namespace
 
-std::optional<std::string> write_recovery_copy(Session& session) {
+std::string write_recovery_copy(Session& session) {
     if (!session.provinces.has_unsaved_changes())
-        return std::nullopt;
+        return {};
     const std::string bytes = data::write_provinces(session.provinces);
     std::string path;
     try {
@@ -39,13 +39,12 @@ std::optional<std::string> write_recovery_copy(Session& session) {
         path = replace_copy(stored_path(QDir::tempPath()), bytes);
     }
     session.provinces.mark_saved();
-    return shown_path(path);
+    return "The unsaved changes are in " + shown_path(path);
 }
 
 std::string recover(Session& session) {
     try {
-        const auto path = write_recovery_copy(session);
-        return path ? "The unsaved changes are in " + *path : std::string();
+        return write_recovery_copy(session);
     } catch (const std::exception& error) {
         return std::string("The unsaved changes could not be written: ") + error.what();
     }

@@ -54,6 +54,8 @@ Termination::Termination(std::function<void(int)> requested, std::function<void(
 }
 
 Termination::~Termination() {
+    for (const int number : {SIGTERM, SIGINT, SIGHUP})
+        std::signal(number, SIG_DFL); // nobody reads the pipe any more
     at_exit() = nullptr;
 }
 

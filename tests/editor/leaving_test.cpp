@@ -134,4 +134,14 @@ TEST_F(Panel, SelectionTexts) {
     EXPECT_EQ(session.selection.provinces().size(), 2018U);
 }
 
+TEST_F(Panel, ABoxIsToggledOncePerPress) {
+    select_with(2, "inland", "inland");
+    auto& box = visible("cote");
+    press("cote");
+    EXPECT_EQ(cells(2), "coastal|coastal");
+    drag(box, QEvent::MouseMove, -50);
+    drag(box, QEvent::MouseMove, 8);
+    EXPECT_EQ(cells(2), "coastal|coastal") << "dragged out and in";
+}
+
 } // namespace
