@@ -4,6 +4,9 @@
 
 namespace data {
 
+namespace {
+
+/// Returns the platform's words for the number.
 std::string_view words(ErrorNumber number) {
     switch (number) {
     case ErrorNumber::invalid_procedure_call:
@@ -27,8 +30,6 @@ std::string_view words(ErrorNumber number) {
     }
     return "Unknown error";
 }
-
-namespace {
 
 std::string message(ErrorNumber number, std::string_view place) {
     std::string text = "Run-time error " + std::to_string(static_cast<int>(number)) + ": ";

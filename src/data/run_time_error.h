@@ -19,9 +19,6 @@ enum class ErrorNumber {
     path_not_found = 76,
 };
 
-/// Returns the platform's words for the number.
-std::string_view words(ErrorNumber number);
-
 /// An error of the platform with the place where it happened in the user's terms: file, line,
 /// province, field, and what was expected. All texts are Windows-1252 bytes.
 class RunTimeError : public std::runtime_error {

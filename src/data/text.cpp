@@ -25,15 +25,16 @@ constexpr std::array<char, 256> lower_case = [] {
     return table;
 }();
 
+/// Returns the lower-case form of the character, itself when it is no capital letter.
+char fold(char character) {
+    return lower_case[static_cast<unsigned char>(character)];
+}
+
 bool same_letter(char left, char right) {
     return fold(left) == fold(right);
 }
 
 } // namespace
-
-char fold(char character) {
-    return lower_case[static_cast<unsigned char>(character)];
-}
 
 bool equal_ignoring_case(std::string_view left, std::string_view right) {
     // Most compared texts are equal to the byte, and that test is many times faster.

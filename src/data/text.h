@@ -6,9 +6,6 @@
 /// Texts are Windows-1252 bytes; these comparisons fold letter case in that page.
 namespace data {
 
-/// Returns the lower-case form of the character, itself when it is no capital letter.
-char fold(char character);
-
 /// Returns whether both texts are the same but for letter case.
 bool equal_ignoring_case(std::string_view left, std::string_view right);
 

@@ -130,6 +130,13 @@ void Panneau::write_typed_text() {
     }
 }
 
+void Panneau::keep_typed_text() {
+    for (const auto& entry : entries_) {
+        if (entry.field->isModified())
+            entry.keep();
+    }
+}
+
 bool Panneau::eventFilter(QObject* watched, QEvent* event) {
     // Turning the wheel over the panel must not change the value that happens to lie under it.
     if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
@@ -145,13 +152,6 @@ bool Panneau::anything_selected() const {
 
 void Panneau::write(const std::string& value, data::FieldNumber field) {
     changement(session_.provinces, session_.selection, value, field);
-}
-
-void Panneau::keep_typed_text() {
-    for (const auto& entry : entries_) {
-        if (entry.field->isModified())
-            entry.keep();
-    }
 }
 
 Panneau::Show Panneau::bind(const Field& field) {

@@ -73,6 +73,8 @@ class MDIForm1 : public QMainWindow {
 
     /// Sets up the graphics menu and enables what the loaded graphics allow.
     void options();
+    /// Brings the menu and the map up to other graphics, or another choice among them.
+    void show_graphics();
 
     QAction* action(std::string_view name) const;
     void apply_selection();

@@ -81,9 +81,7 @@ data::ReadReport MDIForm1::open_province_file() {
 
 void MDIForm1::gfx() {
     gfx::Form3(session_, this).exec();
-    options();
-    if (map_)
-        map_->refresh();
+    show_graphics();
 }
 
 void MDIForm1::enregister() {
@@ -120,13 +118,15 @@ void MDIForm1::check_mode() {
 
 void MDIForm1::preview(gfx::SpriteKind kind, int item) {
     session_.graphics.previewed(kind) = item - 1;
-    options();
-    if (map_)
-        map_->refresh();
+    show_graphics();
 }
 
 void MDIForm1::toggle_drawings() {
     session_.graphics.shows_drawings = !session_.graphics.shows_drawings;
+    show_graphics();
+}
+
+void MDIForm1::show_graphics() {
     options();
     if (map_)
         map_->refresh();
