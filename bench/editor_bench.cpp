@@ -1,9 +1,9 @@
+#include "base/stored_path.h"
 #include "data/province_file.h"
 #include "editor/merged_values.h"
 #include "editor/selection.h"
 #include "shell/mdi_form1.h"
 #include "shell/session.h"
-#include "shell/stored_path.h"
 
 #include <QApplication>
 #include <QFile>
@@ -106,7 +106,7 @@ class Program {
     }
     std::unique_ptr<shell::Session> session() const {
         auto session = std::make_unique<shell::Session>();
-        session->program_folder = shell::stored_path(folder_.path());
+        session->program_folder = base::stored_path(folder_.path());
         return session;
     }
 

@@ -1,7 +1,7 @@
+#include "base/stored_path.h"
 #include "map/form1.h"
 #include "map/map_image.h"
 #include "shell/session.h"
-#include "shell/stored_path.h"
 
 #include <QApplication>
 #include <QFile>
@@ -83,7 +83,7 @@ class World {
             const auto number = &path - paths_.data();
             const QString file_name = folder_.filePath(QString::number(number) + ".bmp");
             write_map(file_name);
-            path = shell::stored_path(file_name);
+            path = base::stored_path(file_name);
         }
     }
 

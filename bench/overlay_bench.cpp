@@ -1,7 +1,7 @@
+#include "base/stored_path.h"
 #include "gfx/terrain_art.h"
 #include "map/overlay_preview.h"
 #include "map/position_columns.h"
-#include "shell/stored_path.h"
 
 #include <QPainter>
 #include <QTemporaryDir>
@@ -30,7 +30,7 @@ QImage picture(int width, int height) {
 struct World {
     World(Mode mode, QSize spread) {
         session.mode = mode;
-        session.configuration.terrain_art_folder = shell::stored_path(folder.path());
+        session.configuration.terrain_art_folder = base::stored_path(folder.path());
         session.port_placement = {1, 1};
         save_pictures();
         constexpr int columns = 53; // of a grid of 2,018 provinces
@@ -46,7 +46,7 @@ struct World {
         const QString sprite = folder.filePath(QStringLiteral("sprite.bmp"));
         picture(frames * 48, 64).save(sprite);
         for (const auto& kind : gfx::sprite_kinds)
-            session.graphics.sprites.of(kind.kind).rows[0] = {shell::stored_path(sprite), "set", 24,
+            session.graphics.sprites.of(kind.kind).rows[0] = {base::stored_path(sprite), "set", 24,
                                                               50, frames};
         for (const auto type : gfx::terrain_types) {
             if (type == gfx::terrain_types.back())

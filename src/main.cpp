@@ -1,10 +1,10 @@
+#include "base/files.h"
+#include "base/qt_text.h"
+#include "base/stored_path.h"
 #include "data/province_file.h"
 #include "shell/application.h"
 #include "shell/command_line.h"
-#include "shell/files.h"
 #include "shell/mdi_form1.h"
-#include "shell/qt_text.h"
-#include "shell/stored_path.h"
 #include "shell/termination.h"
 
 #include <QScreen>
@@ -40,7 +40,7 @@ bool has_display() {
 
 /// Tells on standard error how much of the province file was understood, and why nothing was.
 void report(const std::string& path, const data::ReadReport& read) {
-    std::cerr << shell::to_utf8(shell::shown_path(path)) << ": provinces read: " << read.provinces;
+    std::cerr << base::to_utf8(base::shown_path(path)) << ": provinces read: " << read.provinces;
     if (read.provinces == 0 && read.lines == 0)
         std::cerr << ": the file is empty";
     else if (read.provinces == 0 && !read.has_carriage_return)
@@ -69,7 +69,7 @@ void save_picture(QWidget& frame, const QString& file) {
     frame.show();
     QApplication::processEvents();
     if (!frame.grab().save(file, "PNG"))
-        throw std::runtime_error("The picture could not be written to " + shell::to_bytes(file));
+        throw std::runtime_error("The picture could not be written to " + base::to_bytes(file));
 }
 
 /// A frame that its screen could not hold together with its title bar takes the whole screen.
@@ -83,7 +83,7 @@ void show_window(QWidget& frame) {
 
 int run(shell::Application& application, shell::Session& session, const shell::CommandLine& line) {
     session.program_folder =
-        line.folder.value_or(shell::stored_path(QApplication::applicationDirPath()));
+        line.folder.value_or(base::stored_path(QApplication::applicationDirPath()));
     session.unattended = line.screenshot.has_value();
 
     shell::MDIForm1 frame(session);

@@ -1,4 +1,4 @@
-#include "map/bitmaps.h"
+#include "support/bitmaps.h"
 
 #include <QFile>
 #include <QImage>

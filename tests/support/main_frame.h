@@ -1,10 +1,10 @@
 #pragma once
 
-#include "gfx/dialog_driver.h"
-#include "map/bitmaps.h"
-#include "shell/captions.h"
-#include "shell/files.h"
+#include "base/captions.h"
+#include "base/files.h"
 #include "shell/mdi_form1.h"
+#include "support/bitmaps.h"
+#include "support/dialog_driver.h"
 #include "support/message_boxes.h"
 #include "support/test_application.h"
 
@@ -47,7 +47,7 @@ class MainFrame : public testing::Test {
     }
 
     static std::string language_file(const std::string& name) {
-        return shell::read_file(std::string(LANGUAGES_FOLDER) + "/" + name);
+        return base::read_file(std::string(LANGUAGES_FOLDER) + "/" + name);
     }
 
     void start() {
@@ -146,7 +146,7 @@ class MainFrame : public testing::Test {
     void load(int province, int field, const std::string& text) const {
         session.provinces.load(province, data::table_column(data::FieldNumber{field}), text);
     }
-    std::string file(const QString& name) const { return shell::read_file(folder.path(name)); }
+    std::string file(const QString& name) const { return base::read_file(folder.path(name)); }
     bool has_file(const QString& name) const { return QFile::exists(folder.native(name)); }
 
     bitmaps::Folder folder;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/qt_text.h"
+#include "base/qt_text.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -47,7 +47,7 @@ class MessageBoxes {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (box == nullptr)
             return;
-        boxes_.push_back({box->objectName().toStdString(), shell::to_bytes(box->text()),
+        boxes_.push_back({box->objectName().toStdString(), base::to_bytes(box->text()),
                           box->standardButton(box->defaultButton())});
         if (auto* button = box->button(answer))
             QTest::mouseClick(button, Qt::LeftButton);

@@ -34,13 +34,13 @@ class Panel : public support::MainFrame {
     std::string shown(const std::string& name) const {
         auto* found = frame->findChild<QWidget*>(QString::fromStdString(name));
         if (auto* text = qobject_cast<QLineEdit*>(found))
-            return shell::to_bytes(text->text());
+            return base::to_bytes(text->text());
         if (auto* list = qobject_cast<QComboBox*>(found))
-            return shell::to_bytes(list->currentText());
+            return base::to_bytes(list->currentText());
         if (auto* box = qobject_cast<QCheckBox*>(found))
             return box->isChecked() ? "on" : "off";
         if (auto* label = qobject_cast<QLabel*>(found))
-            return shell::to_bytes(label->text());
+            return base::to_bytes(label->text());
         if (auto* slider = qobject_cast<QSlider*>(found))
             return std::to_string(slider->value());
         std::string on;

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "base/qt_text.h"
+#include "shell/language.h"
+
+#include <QString>
+
+#include <string_view>
+
+namespace base {
+
+/// Returns the main frame's caption for the key (in UTF-8, without the frame's name and its dot),
+/// the design-time caption (in UTF-8) where the language file has none.
+inline QString frame_caption(const shell::LanguageTexts& language, std::string_view key,
+                             std::string_view design) {
+    const auto caption = language.caption("MDIForm1." + to_bytes(from_utf8(key)));
+    return caption ? to_qstring(*caption) : from_utf8(design);
+}
+
+/// Returns a dialog's caption for the key, spelled exactly so; the design-time caption where the
+/// language file has none.
+inline QString dialog_caption(const shell::LanguageTexts& language, std::string_view key,
+                              std::string_view design) {
+    const auto caption = language.exact_caption(key);
+    return caption ? to_qstring(*caption) : from_utf8(design);
+}
+
+} // namespace base

@@ -1,0 +1,53 @@
+#include "base/messages.h"
+
+#include "base/qt_text.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include <stdexcept>
+
+namespace base {
+
+namespace {
+
+int show_box(QWidget* owner, const char* name, QMessageBox::Icon icon, const std::string& text,
+             QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset) {
+    QMessageBox box(icon, QApplication::applicationDisplayName(), to_qstring(text), buttons, owner);
+    box.setObjectName(QString::fromLatin1(name));
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(preset);
+    return box.exec();
+}
+
+void throw_if_unattended(const shell::Session& session, const std::string& text) {
+    if (session.unattended)
+        throw std::runtime_error(text);
+}
+
+} // namespace
+
+void show_message(const shell::Session& session, QWidget* owner, const std::string& text) {
+    throw_if_unattended(session, text);
+    show_box(owner, "message", QMessageBox::Warning, text, QMessageBox::Ok, QMessageBox::Ok);
+}
+
+bool ask(const shell::Session& session, QWidget* owner, const std::string& text,
+         DefaultAnswer preset) {
+    throw_if_unattended(session, text);
+    const auto button = preset == DefaultAnswer::yes ? QMessageBox::Yes : QMessageBox::No;
+    return show_box(owner, "message", QMessageBox::Question, text,
+                    QMessageBox::Yes | QMessageBox::No, button) == QMessageBox::Yes;
+}
+
+void show_error(const shell::Session& session, QWidget* owner, const data::RunTimeError& error) {
+    throw_if_unattended(session, error.what());
+    show_error_box(owner, error.what());
+}
+
+void show_error_box(QWidget* owner, const std::string& text) {
+    show_box(owner, "run_time_error", QMessageBox::Critical, text, QMessageBox::Ok,
+             QMessageBox::Ok);
+}
+
+} // namespace base

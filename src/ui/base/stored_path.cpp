@@ -1,0 +1,84 @@
+#include "base/stored_path.h"
+
+#include "base/qt_text.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+namespace base {
+
+namespace {
+
+constexpr char separator = '\\';
+
+bool has_drive(const QString& path) {
+    return path.size() >= 2 && path[0].isLetter() && path[1] == ':';
+}
+
+#ifndef Q_OS_WIN
+/// Returns the name of an entry of the folder that differs from the wanted one in letter case only;
+/// the wanted name where the folder has none.
+QString name_in(const QString& folder, const QString& wanted) {
+    if (QFileInfo::exists(folder + wanted))
+        return wanted;
+    const auto names = QDir(folder).entryList(QDir::AllEntries | QDir::Hidden);
+    for (const auto& name : names) {
+        if (name.compare(wanted, Qt::CaseInsensitive) == 0)
+            return name;
+    }
+    return wanted;
+}
+
+QString with_letter_case_of_the_disk(const QString& path) {
+    if (QFileInfo::exists(path))
+        return path;
+    QString found = path.startsWith('/') ? QStringLiteral("/") : QStringLiteral("./");
+    const auto names = path.split('/', Qt::SkipEmptyParts);
+    for (const auto& name : names)
+        found += name_in(found, name) + '/';
+    found.chop(1);
+    return found;
+}
+#endif
+
+} // namespace
+
+QString native_path(std::string_view path) {
+    QString native = to_qstring(path);
+#ifndef Q_OS_WIN
+    if (native.startsWith(QStringLiteral("c:"), Qt::CaseInsensitive))
+        native = native.size() == 2 ? QStringLiteral(".") : native.mid(2);
+    static const QRegularExpression separators(QStringLiteral("[\\\\/]+"));
+    native.replace(separators, QStringLiteral("/"));
+    native = with_letter_case_of_the_disk(native);
+#endif
+    return native;
+}
+
+std::string stored_path(const QString& path) {
+    if (has_drive(path))
+        return to_bytes(path);
+    QString stored = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    stored.replace('/', separator);
+    if (!has_drive(stored))
+        stored.prepend(QStringLiteral("c:"));
+    return to_bytes(stored);
+}
+
+bool is_storable(const QString& name) {
+    return to_qstring(to_bytes(name)) == name && !name.contains(separator);
+}
+
+std::string in_folder(std::string_view folder, std::string_view name) {
+    std::string path(folder);
+    path += separator;
+    return path.append(name);
+}
+
+std::string folder_of(std::string_view path) {
+    const auto last = path.rfind(separator);
+    return std::string(path.substr(0, last == std::string_view::npos ? 0 : last + 1));
+}
+
+} // namespace base

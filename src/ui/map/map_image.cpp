@@ -1,0 +1,137 @@
+#include "map/map_image.h"
+
+#include "base/files.h"
+#include "base/qt_text.h"
+#include "base/stored_path.h"
+#include "data/run_time_error.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace map {
+
+namespace {
+
+constexpr Pixel unreadable = 0xFF808080;
+
+[[noreturn]] void fail(const std::string& reason) {
+    throw data::RunTimeError(data::ErrorNumber::path_file_access, reason);
+}
+
+QImage decode(const QString& file_name) {
+    QImageReader::setAllocationLimit(0); // maps are larger than what Qt takes for reasonable
+    QImageReader reader(file_name);
+    reader.setDecideFormatFromContent(true);
+    QImage image = reader.read();
+    if (image.isNull())
+        fail("a bitmap or another image was expected (" + base::to_bytes(reader.errorString()) +
+             ")");
+    image.convertTo(QImage::Format_RGB32);
+    return image;
+}
+
+QSize size_of(const BitmapLayout& layout) {
+    return {layout.width, layout.height};
+}
+
+} // namespace
+
+MapImage::MapImage(std::string_view path)
+    : file_name_(base::native_path(path)), head_(base::read_file(path, bitmap_head_size)) {
+    try {
+        if (head_.empty())
+            fail("the file is empty, an image was expected");
+        const auto file_size = static_cast<std::uint64_t>(QFileInfo(file_name_).size());
+        if (auto layout = read_bitmap_layout(head_, file_size)) {
+            layout_ = std::move(*layout);
+            size_ = size_of(layout_);
+        } else {
+            decoded_ = decode(file_name_);
+            size_ = decoded_.size();
+        }
+    } catch (const data::RunTimeError& error) {
+        throw error.within(base::shown_path(path));
+    }
+}
+
+std::optional<Colour> MapImage::colour_at(QPoint point) const {
+    if (!QRect({0, 0}, size_).contains(point))
+        return {};
+    Pixel pixel = no_pixel;
+    if (!MapReader(*this).read_row(point.y(), point.x(), 1, {&pixel, 1}))
+        return {};
+    return pixel & 0xFFFFFF;
+}
+
+MapReader::MapReader(const MapImage& image) : image_(image) {
+    if (!image.decoded_.isNull())
+        return;
+    file_.setFileName(image.file_name_);
+    if (!file_.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return;
+    std::array<char, bitmap_head_size> buffer = {};
+    const qint64 read = file_.read(buffer.data(), buffer.size());
+    const std::string_view head(buffer.data(), static_cast<std::size_t>(std::max<qint64>(read, 0)));
+    if (head == image.head_) {
+        layout_ = &image.layout_;
+        return;
+    }
+    try {
+        // Half written perhaps: the rows that are there are worth showing.
+        constexpr auto any_size = std::numeric_limits<std::uint64_t>::max();
+        new_layout_ = read_bitmap_layout(head, any_size);
+    } catch (const data::RunTimeError&) {
+        return;
+    }
+    if (new_layout_ && size_of(*new_layout_) == image.size_)
+        layout_ = &*new_layout_;
+}
+
+bool MapReader::read_pixels(int y, int first_x, int step, std::span<Pixel> pixels) {
+    if (!image_.decoded_.isNull()) {
+        const auto* row =
+            reinterpret_cast<const Pixel*>(image_.decoded_.constScanLine(y)) + first_x;
+        for (Pixel& pixel : pixels) {
+            pixel = *row;
+            row += step;
+        }
+        return true;
+    }
+    if (layout_ == nullptr)
+        return false;
+    const int last_x = first_x + step * (static_cast<int>(pixels.size()) - 1);
+    const FilePart part = part_of_row(*layout_, y, first_x, last_x);
+    bytes_.resize(part.size);
+    if (!file_.seek(static_cast<qint64>(part.begin)) ||
+        file_.read(bytes_.data(), static_cast<qint64>(part.size)) != static_cast<qint64>(part.size))
+        return false;
+    decode_pixels(*layout_, bytes_, first_x, step, pixels);
+    return true;
+}
+
+bool MapReader::read_row(int y, int first_x, int step, std::span<Pixel> pixels) {
+    const QSize size = image_.size_;
+    std::size_t inside = 0;
+    if (y >= 0 && y < size.height() && first_x < size.width())
+        inside = std::min(pixels.size(),
+                          static_cast<std::size_t>((size.width() - first_x - 1) / step + 1));
+    const bool readable = inside > 0 && read_pixels(y, first_x, step, pixels.first(inside));
+    const auto rest = readable ? pixels.subspan(inside) : pixels;
+    std::fill(rest.begin(), rest.end(), no_pixel);
+    return readable;
+}
+
+void MapReader::read(const QRect& rectangle, QImage& target) {
+    for (int row = 0; row < rectangle.height(); ++row) {
+        const std::span pixels(reinterpret_cast<Pixel*>(target.scanLine(row)),
+                               static_cast<std::size_t>(rectangle.width()));
+        if (!read_row(rectangle.top() + row, rectangle.left(), 1, pixels))
+            std::fill(pixels.begin(), pixels.end(), unreadable);
+    }
+}
+
+} // namespace map

@@ -1,0 +1,256 @@
+#include "map/overlay_preview.h"
+
+#include "base/qt_text.h"
+#include "base/stored_path.h"
+#include "data/columns.h"
+#include "data/numbers.h"
+#include "gfx/terrain_art.h"
+#include "map/position_columns.h"
+
+#include <QFont>
+#include <QFontMetrics>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace map {
+
+namespace {
+
+constexpr int marker_size = 13; // pixels
+constexpr int outline_width = 3;
+constexpr int label_height = 14;
+constexpr int label_gap = 4; // between a port and the id of its sea
+constexpr int largest_shown_id = 32767;
+
+constexpr data::FileColumn climate_column{8};
+constexpr data::FileColumn terrain_column{14};
+
+constexpr QColor pointed_colour(255, 255, 0);
+constexpr QColor label_colour(0, 0, 96);
+constexpr QColor waiting_colour(255, 128, 0);
+
+std::optional<gfx::SpriteKind> sprite_kind(Mode mode) {
+    switch (mode) {
+    case Mode::ville:
+        return gfx::SpriteKind::ville;
+    case Mode::armees:
+        return gfx::SpriteKind::armees;
+    case Mode::port:
+        return gfx::SpriteKind::port;
+    case Mode::manuf:
+        return gfx::SpriteKind::manuf;
+    case Mode::dessin:
+    case Mode::normal:
+        break;
+    }
+    return {};
+}
+
+data::FileColumn variant_column(int drawing) {
+    const auto* columns =
+        std::find_if(position_columns.begin(), position_columns.end(),
+                     [drawing](const auto& candidate) { return candidate.drawing == drawing; });
+    return columns->variant();
+}
+
+QImage draw_marker() {
+    QImage image(marker_size, marker_size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Qt::white, 2));
+    painter.setBrush(QColor(200, 0, 0));
+    painter.drawEllipse(image.rect().adjusted(1, 1, -1, -1));
+    return image;
+}
+
+QRect place(const QImage& image, QPoint origin, const StoredPosition& position) {
+    const QPoint pixel(static_cast<int>(std::floor(position.x)),
+                       static_cast<int>(std::floor(position.y)));
+    return {pixel - origin, image.size()};
+}
+
+/// Returns the sea's id as it stands beside its port.
+QImage draw_label(int sea) {
+    const QString text = QString::number(sea);
+    QFont font;
+    font.setPixelSize(label_height - 3);
+    font.setBold(true);
+    const int width = QFontMetrics(font).horizontalAdvance(text) + 2 * label_gap;
+    QImage image(width, label_height, QImage::Format_RGB32);
+    image.fill(label_colour);
+    QPainter painter(&image);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(image.rect(), Qt::AlignCenter, text);
+    return image;
+}
+
+/// Returns where the label stands beside the picture; empty for a label that is none.
+QRect label_place(const QRect& picture, const QImage& label) {
+    return {{picture.right() + 1 + label_gap, picture.center().y() - label.height() / 2},
+            label.size()};
+}
+
+QRect outline_place(const QRect& picture) {
+    return picture.adjusted(-outline_width, -outline_width, outline_width, outline_width);
+}
+
+/// Returns all that may be painted for a thing with that picture and label.
+QRect extent(const QRect& picture, const QImage& label) {
+    return outline_place(picture) | label_place(picture, label);
+}
+
+void draw_outline(QPainter& painter, const QRect& picture, QColor colour) {
+    const QRect outer = outline_place(picture);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(Qt::black, 1));
+    painter.drawRect(outer.adjusted(0, 0, -1, -1));
+    painter.setPen(QPen(colour, 1));
+    painter.drawRect(outer.adjusted(1, 1, -2, -2));
+    painter.drawRect(outer.adjusted(2, 2, -3, -3));
+}
+
+} // namespace
+
+OverlayPreview::OverlayPreview(const shell::Session& session)
+    : session_(session), marker_(draw_marker()) {}
+
+void OverlayPreview::paint(QPainter& painter, const QRect& exposed, int pointed_province) {
+    if (session_.mode == Mode::normal)
+        return;
+    bitmaps_.expect_changes();
+    const auto& port = session_.port_placement;
+    const bool sea_is_awaited = session_.mode == Mode::port && port.stage == 1;
+
+    painter.save();
+    std::vector<std::pair<QRect, QColor>> outlines; // above everything else
+    const auto positions =
+        positions_in(session_.provinces, session_.mode, session_.maps, area_reaching_into(exposed));
+    for (const auto& position : positions) {
+        const Look look = look_of(position);
+        report(look.problem);
+        const QRect picture = place(*look.image, look.origin, position);
+        painter.drawImage(picture.topLeft(), *look.image);
+        if (const QImage label = label_of(position.province); !label.isNull())
+            painter.drawImage(label_place(picture, label).topLeft(), label);
+        if (sea_is_awaited && position.province == port.province)
+            outlines.emplace_back(picture, waiting_colour);
+        else if (position.province == pointed_province)
+            outlines.emplace_back(picture, pointed_colour);
+    }
+    for (const auto& [picture, colour] : outlines)
+        draw_outline(painter, picture, colour);
+    painter.restore();
+}
+
+QRect OverlayPreview::bounds(int province) const {
+    QRect covered;
+    if (province < 1 || province > data::last_province)
+        return covered;
+    for (const auto& position :
+         positions_of(session_.provinces, session_.mode, session_.maps, province)) {
+        const Look look = look_of(position);
+        covered |= extent(place(*look.image, look.origin, position), label_of(province));
+    }
+    return covered;
+}
+
+OverlayPreview::Look OverlayPreview::look_of(const StoredPosition& position) const {
+    if (const auto kind = sprite_kind(session_.mode))
+        return sprite_look(*kind);
+    return drawing_look(position);
+}
+
+OverlayPreview::Look OverlayPreview::sprite_look(gfx::SpriteKind kind) const {
+    const auto& rows = session_.graphics.sprites.of(kind).rows;
+    const auto row = static_cast<std::size_t>(session_.graphics.previewed(kind));
+    if (row >= rows.size() || rows[row].bitmap_path.empty())
+        return marker_look(
+            QStringLiteral("The item that the graphics menu has checked holds no sprite set"));
+    const auto& sprite = rows[row];
+    const Bitmap& bitmap = bitmaps_.first_frame(sprite.bitmap_path, sprite.frames);
+    if (bitmap.image.isNull())
+        return marker_look(bitmap.problem);
+    return {&bitmap.image, {sprite.origin_x, sprite.origin_y}, {}};
+}
+
+OverlayPreview::Look OverlayPreview::drawing_look(const StoredPosition& position) const {
+    if (!session_.graphics.shows_drawings)
+        return marker_look();
+    const auto cell = [&](data::FileColumn column) -> const std::string& {
+        return session_.provinces.cell(position.province, data::table_column(column));
+    };
+    const Bitmap& art = terrain_art(gfx::terrain_art_file(
+        cell(terrain_column), cell(climate_column), cell(variant_column(position.drawing))));
+    if (art.image.isNull())
+        return marker_look(art.problem);
+    return {&art.image, {art.image.width() / 2, art.image.height() / 2}, {}};
+}
+
+const Bitmap& OverlayPreview::terrain_art(const std::string& file) const {
+    return bitmaps_.first_frame(base::in_folder(session_.configuration.terrain_art_folder, file),
+                                1);
+}
+
+/// Returns what the largest thing of the mode covers around a position at (0, 0).
+QRect OverlayPreview::largest_extent() const {
+    const StoredPosition zero{0, PositionColumns::no_drawing, 0, 0};
+    if (const auto kind = sprite_kind(session_.mode)) {
+        const Look sprite = sprite_look(*kind);
+        return extent(place(*sprite.image, sprite.origin, zero), label(largest_shown_id));
+    }
+    QRect largest = place(marker_, marker_origin, zero);
+    if (session_.graphics.shows_drawings) {
+        for (const auto type : gfx::terrain_types) {
+            for (int variant = 0; variant < gfx::terrain_variants; ++variant) {
+                const QImage& art = terrain_art(gfx::terrain_art_file(type, variant)).image;
+                largest |= place(art, {art.width() / 2, art.height() / 2}, zero);
+            }
+        }
+    }
+    return outline_place(largest);
+}
+
+/// Returns where the positions lie whose things reach into the rectangle.
+Area OverlayPreview::area_reaching_into(const QRect& exposed) const {
+    const QRect largest = largest_extent();
+    return {static_cast<double>(exposed.left()) - largest.right(),
+            static_cast<double>(exposed.top()) - largest.bottom(),
+            static_cast<double>(exposed.right()) - largest.left() + 1,
+            static_cast<double>(exposed.bottom()) - largest.top() + 1};
+}
+
+/// Returns the id of the sea that the province's port opens to; null without one, and in every
+/// other mode.
+QImage OverlayPreview::label_of(int province) const {
+    if (session_.mode != Mode::port)
+        return {};
+    const double sea =
+        data::leading_number(session_.provinces.cell(province, data::table_column(sea_of_port)));
+    if (sea < 1 || sea > largest_shown_id)
+        return {};
+    return label(static_cast<int>(sea));
+}
+
+QImage OverlayPreview::label(int sea) const {
+    QImage& image = labels_[sea];
+    if (image.isNull())
+        image = draw_label(sea);
+    return image;
+}
+
+void OverlayPreview::report(const QString& problem) {
+    if (problem.isEmpty() || reported_.contains(problem))
+        return;
+    reported_.insert(problem);
+    if (on_problem)
+        on_problem(problem);
+}
+
+} // namespace map

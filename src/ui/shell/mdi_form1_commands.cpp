@@ -1,0 +1,209 @@
+#include "base/files.h"
+#include "base/messages.h"
+#include "base/qt_text.h"
+#include "base/stored_path.h"
+#include "data/province_file.h"
+#include "data/run_time_error.h"
+#include "editor/panneau.h"
+#include "gfx/form2.h"
+#include "gfx/form3.h"
+#include "gfx/form4.h"
+#include "shell/frm_about.h"
+#include "shell/mdi_form1.h"
+#include "shell/recovery.h"
+
+#include <QAction>
+#include <QCloseEvent>
+
+#include <algorithm>
+#include <array>
+#include <iostream>
+
+namespace shell {
+
+namespace {
+
+constexpr int open_question = 15; // message texts
+constexpr int save_question = 17;
+constexpr int language_notice = 18;
+constexpr int malformed_selection = 7;
+
+/// The kinds of the graphics menu: the array of its items, and the item of position entry.
+struct PreviewMenu {
+    gfx::SpriteKind kind;
+    std::string_view items;
+    map::Mode mode;
+};
+
+constexpr std::array<PreviewMenu, 4> preview_menus = {{
+    {gfx::SpriteKind::ville, "ville_graph", map::Mode::ville},
+    {gfx::SpriteKind::armees, "armée_graph", map::Mode::armees},
+    {gfx::SpriteKind::manuf, "manuf_graph", map::Mode::manuf},
+    {gfx::SpriteKind::port, "port_graph", map::Mode::port},
+}};
+
+std::string item_name(std::string_view items, int number) {
+    return std::string(items) + "(" + std::to_string(number) + ")";
+}
+
+QString escaped(const std::string& set_name) {
+    return base::to_qstring(set_name).replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
+
+} // namespace
+
+void MDIForm1::ouvrir_cartes() {
+    session_.cancelled_flag = 0;
+    gfx::Form2(session_, this).exec();
+    if (session_.cancelled_flag == 0)
+        open_maps();
+}
+
+void MDIForm1::ouvrir_csv() {
+    if (!base::ask(session_, this, session_.language.message(open_question),
+                   base::DefaultAnswer::no))
+        return;
+    session_.chooser_kind = gfx::ChooserKind::CSV;
+    gfx::Form4(session_, this).exec();
+    if (session_.cancelled_flag == 0)
+        open_province_file();
+}
+
+data::ReadReport MDIForm1::open_province_file() {
+    const auto& path = session_.configuration.province_file_path;
+    const std::string bytes = base::read_file(path);
+    panel_->forget_shown();
+    try {
+        return data::read_provinces(bytes, session_.provinces);
+    } catch (const data::RunTimeError& error) {
+        throw error.within(base::shown_path(path));
+    }
+}
+
+void MDIForm1::gfx() {
+    gfx::Form3(session_, this).exec();
+    show_graphics();
+}
+
+void MDIForm1::enregister() {
+    session_.chooser_kind = gfx::ChooserKind::CSV2;
+    gfx::Form4(session_, this).exec();
+    if (session_.cancelled_flag != 0)
+        return;
+    base::replace_file(session_.configuration.province_save_path,
+                       data::write_provinces(session_.provinces));
+    session_.provinces.mark_saved();
+}
+
+void MDIForm1::quitter() {
+    close();
+}
+
+void MDIForm1::enter_mode(map::Mode mode) {
+    session_.mode = mode;
+    check_mode();
+    panel_->setVisible(mode == map::Mode::normal);
+    if (auto* map = map_window())
+        map->selection_or_mode_changed();
+    if (mode == map::Mode::normal) {
+        panel_->show_selection(); // clicks in the mode that ends may have moved what it shows
+        options();
+    }
+    show_status_text(map::info(mode).status_text);
+}
+
+void MDIForm1::check_mode() {
+    for (const auto& mode : map::modes)
+        action(mode.menu_item)->setChecked(mode.mode == session_.mode);
+}
+
+void MDIForm1::preview(gfx::SpriteKind kind, int item) {
+    session_.graphics.previewed(kind) = item - 1;
+    show_graphics();
+}
+
+void MDIForm1::toggle_drawings() {
+    session_.graphics.shows_drawings = !session_.graphics.shows_drawings;
+    show_graphics();
+}
+
+void MDIForm1::show_graphics() {
+    options();
+    if (map_)
+        map_->refresh();
+}
+
+void MDIForm1::options() {
+    for (const auto& menu : preview_menus) {
+        const auto& rows = session_.graphics.sprites.of(menu.kind).rows;
+        for (int item = 1; item <= gfx::info(menu.kind).set_limit; ++item) {
+            const std::string name = item_name(menu.items, item);
+            const auto& set_name = rows.at(static_cast<std::size_t>(item - 1)).set_name;
+            auto* entry = action(name);
+            entry->setText(set_name.empty() ? entry->data().toString() : escaped(set_name));
+            entry->setEnabled(!set_name.empty());
+            entry->setChecked(session_.graphics.previewed(menu.kind) == item - 1);
+        }
+        const bool has_set = std::any_of(rows.begin(), rows.end(), [](const gfx::Sprite& sprite) {
+            return !sprite.set_name.empty();
+        });
+        if (has_set)
+            action(map::info(menu.mode).menu_item)->setEnabled(true);
+    }
+    const bool has_terrain_art = session_.configuration.terrain_art_flag == 1;
+    if (has_terrain_art)
+        action("dessin_menu")->setEnabled(true);
+    action("dessin_graph")->setEnabled(has_terrain_art);
+    action("dessin_graph")->setChecked(session_.graphics.shows_drawings);
+}
+
+void MDIForm1::choose_language(int item) {
+    session_.configuration.language_file =
+        base::to_bytes(languages_.at(item) + QStringLiteral(".lng"));
+    base::show_message(session_, this, session_.language.message(language_notice));
+}
+
+void MDIForm1::propos() {
+    frmAbout(session_, this).exec();
+}
+
+void MDIForm1::select(const std::string& text) {
+    panel_->set_selection_text(text);
+    apply_selection();
+}
+
+void MDIForm1::apply_selection() {
+    const std::string text = panel_->selection_text();
+    panel_->write_typed_text(); // a shortcut selects without taking the focus from a field
+    if (!editor::is_well_formed(text))
+        base::show_message(session_, this, session_.language.message(malformed_selection));
+    try {
+        session_.selection.apply(text);
+    } catch (const data::RunTimeError& error) {
+        panel_->forget_shown(); // it still shows what was selected before
+        base::show_error(session_, this, error);
+        return;
+    }
+    if (map_)
+        map_->selection_or_mode_changed();
+    panel_->show_selection();
+}
+
+void MDIForm1::keep_typed_text() {
+    panel_->keep_typed_text();
+}
+
+void MDIForm1::closeEvent(QCloseEvent* event) {
+    panel_->write_typed_text();
+    if (!session_.maps.id_map_path.empty() &&
+        base::ask(session_, this, session_.language.message(save_question),
+                  base::DefaultAnswer::yes))
+        enregister();
+    base::replace_file(base::in_folder(session_.program_folder, configuration_file),
+                       write_configuration(session_.configuration, session_.graphics.files));
+    if (const std::string notice = write_recovery_copy(session_); !notice.empty())
+        std::cerr << base::to_utf8(notice) << std::endl;
+    event->accept();
+}
+
+} // namespace shell

@@ -1,0 +1,108 @@
+#include "base/qt_text.h"
+#include "base/stored_path.h"
+#include "editor/panneau.h"
+#include "shell/mdi_form1.h"
+
+#include <QAction>
+#include <QEvent>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QStatusBar>
+
+#include <array>
+#include <memory>
+
+namespace shell {
+
+namespace {
+
+constexpr int problem_time = 15000; // milliseconds that a reason stays in the status bar
+
+struct MapItem {
+    std::string_view name;
+    map::Shown shown;
+    std::string map::Maps::*path;
+};
+
+constexpr std::array<MapItem, 3> map_items = {{
+    {"carte_1", map::Shown::map_1, &map::Maps::map_1_path},
+    {"carte_2", map::Shown::map_2, &map::Maps::map_2_path},
+    {"carte_id", map::Shown::id_map, &map::Maps::id_map_path},
+}};
+
+} // namespace
+
+void MDIForm1::enable_map_items(bool enabled) {
+    for (const auto* name : {"carte_1", "carte_id", "normal", "saisie"})
+        action(name)->setEnabled(enabled);
+}
+
+void MDIForm1::open_maps() {
+    make_map_window();
+    enable_map_items(true);
+    show_status_text(map::info(map::Mode::normal).status_text);
+}
+
+map::Form1* MDIForm1::map_window() {
+    if (!map_ && !session_.maps.id_map_path.empty())
+        make_map_window();
+    return map_;
+}
+
+void MDIForm1::make_map_window() {
+    delete map_frame_;
+    action("carte_2")->setEnabled(false);
+    auto map = std::make_unique<map::Form1>(session_);
+    map_ = map.get();
+    map_frame_ = workspace_->addSubWindow(map.release());
+    map_frame_->setAttribute(Qt::WA_DeleteOnClose);
+    connect(map_, &map::Form1::pointed, this, [this](int province) {
+        pointer_text_->setText(QStringLiteral("id = %1").arg(province));
+    });
+    connect(map_, &map::Form1::province_clicked, this, [this](int province, bool add) {
+        const std::string present = add ? panel_->selection_text() : std::string();
+        select(editor::with_province(present, province));
+    });
+    connect(map_, &map::Form1::problem, this,
+            [this](const QString& reason) { statusBar()->showMessage(reason, problem_time); });
+    action("carte_2")->setEnabled(map_->has_map_2());
+    check_map(map::Shown::map_1);
+    map_frame_->show();
+    fit_map_window();
+}
+
+void MDIForm1::show_map(map::Shown shown) {
+    auto* map = map_window();
+    if (!map)
+        return;
+    map->show_map(shown);
+    check_map(shown);
+}
+
+void MDIForm1::check_map(map::Shown shown) {
+    for (const auto& item : map_items) {
+        action(item.name)->setChecked(item.shown == shown);
+        if (item.shown == shown)
+            map_frame_->setWindowTitle(
+                QFileInfo(base::native_path(session_.maps.*item.path)).fileName());
+    }
+}
+
+void MDIForm1::fit_map_window() {
+    if (!map_frame_ || map_frame_->isMaximized() || map_frame_->isMinimized())
+        return;
+    const auto room = workspace_->viewport()->size();
+    fitted_ = {QPoint(0, 0), map_frame_->sizeHint().boundedTo(room)};
+    map_frame_->setGeometry(fitted_);
+}
+
+bool MDIForm1::eventFilter(QObject* watched, QEvent* event) {
+    const bool is_as_fitted = map_frame_ && map_frame_->geometry() == fitted_;
+    if (event->type() == QEvent::Resize && watched == workspace_->viewport() && is_as_fitted)
+        fit_map_window(); // where the user has put it elsewhere, it stays
+    return QMainWindow::eventFilter(watched, event);
+}
+
+} // namespace shell

@@ -1,0 +1,60 @@
+#include "map/selection_dots.h"
+#include "support/bitmaps.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace {
+
+/// A grid of identifiers, a letter each: "." is no pixel, "A" province 1, "Z" identifier 2019.
+map::SelectionDots dots_of(const std::vector<std::string>& letters, std::string_view selected,
+                           int width, int height) {
+    editor::Selection selection;
+    selection.apply(selected);
+    return {width, height, selection, [&](int y, std::span<map::Pixel> pixels) {
+                const auto& row = letters.at(static_cast<std::size_t>(y / map::dot_spacing));
+                ASSERT_EQ(row.size(), pixels.size());
+                for (std::size_t i = 0; i < row.size(); ++i) {
+                    const int identifier = row[i] == 'Z' ? 2019 : row[i] - '@';
+                    pixels[i] =
+                        row[i] == '.' ? map::no_pixel : 0xFF000000 | bitmaps::colour_of(identifier);
+                }
+            }};
+}
+
+std::string drawn(const map::SelectionDots& dots) {
+    std::string text;
+    for (int row = 0; row < dots.rows(); ++row) {
+        for (int column = 0; column < dots.columns(); ++column)
+            text += dots.has_dot(column, row) ? '*' : ' ';
+        text += '\n';
+    }
+    return text;
+}
+
+TEST(SelectionDots, LieInSelectedProvinces) {
+    const auto dots = dots_of({"@AAB", "B.AA", "AZA."}, "1", 61, 60);
+    EXPECT_EQ(drawn(dots), " ** \n"
+                           "  **\n"
+                           "* * \n");
+    ASSERT_TRUE(dots.foreign_point());
+    EXPECT_EQ(dots.foreign_point()->x, 20);
+    EXPECT_EQ(dots.foreign_point()->y, 40);
+    EXPECT_EQ(dots.foreign_point()->identifier, 2019);
+    EXPECT_EQ(dots.foreign_point()->colour, bitmaps::colour_of(2019));
+}
+
+TEST(SelectionDots, GridCoversTheMap) {
+    struct Row {
+        int length;
+        int points;
+    };
+    for (const Row row : {Row{0, 0}, Row{1, 1}, Row{20, 1}, Row{21, 2}, Row{40, 2}, Row{41, 3}}) {
+        const std::string letters(static_cast<std::size_t>(row.points), 'B');
+        const auto dots = dots_of({letters}, "2", row.length, 1);
+        EXPECT_EQ(drawn(dots), std::string(letters.size(), '*') + "\n") << row.length;
+        EXPECT_FALSE(dots.foreign_point());
+    }
+}
+
+} // namespace

@@ -1,0 +1,128 @@
+#include "base/files.h"
+#include "base/stored_path.h"
+#include "data/run_time_error.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <functional>
+#include <gtest/gtest.h>
+#include <optional>
+#include <string>
+
+#ifdef Q_OS_UNIX
+#include <sys/resource.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+using base::read_file;
+using base::replace_file;
+using data::ErrorNumber;
+
+class FilesTest : public testing::Test {
+  protected:
+    std::string path(const std::string& name) const {
+        return base::stored_path(folder.path()) + "\\" + name;
+    }
+
+    QStringList names() const {
+        return QDir(folder.path())
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    /// Checks that the act fails with that number and names the file.
+    static void expect_error(ErrorNumber number, const std::string& name,
+                             const std::function<void()>& act) {
+        try {
+            act();
+            ADD_FAILURE() << "no error for " << name;
+        } catch (const data::RunTimeError& error) {
+            EXPECT_EQ(error.number(), number) << error.what();
+            EXPECT_NE(error.place().find(name), std::string::npos) << error.place();
+        }
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(FilesTest, BytesComeBack) {
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte)
+        bytes += static_cast<char>(byte);
+    replace_file(path("x.csv"), bytes);
+    EXPECT_EQ(read_file(path("x.csv")), bytes);
+    replace_file(path("X.CSV"), ""); // letter case aside the same file
+    EXPECT_EQ(read_file(path("x.csv")), "");
+    EXPECT_EQ(names(), QStringList("x.csv"));
+}
+
+TEST_F(FilesTest, MissingFileAndFolderAreErrors) {
+    expect_error(ErrorNumber::file_not_found, "gone.csv", [&] { read_file(path("gone.csv")); });
+    expect_error(ErrorNumber::path_not_found, "x.csv", [&] { read_file(path("no\\x.csv")); });
+    expect_error(ErrorNumber::path_not_found, "x.csv",
+                 [&] { replace_file(path("no\\x.csv"), ""); });
+    EXPECT_EQ(names(), QStringList());
+}
+
+TEST_F(FilesTest, FolderInPlaceOfAFileIsAnError) {
+    QDir(folder.path()).mkpath("map.bmp/inner");
+    expect_error(ErrorNumber::path_file_access, "map.bmp", [&] { read_file(path("map.bmp")); });
+    expect_error(ErrorNumber::path_file_access, "map.bmp",
+                 [&] { replace_file(path("map.bmp"), "x"); });
+    EXPECT_TRUE(QDir(folder.filePath("map.bmp/inner")).exists());
+}
+
+#ifdef Q_OS_UNIX
+
+/// No file can grow beyond that many bytes while this lives.
+class FileSizeLimit {
+  public:
+    explicit FileSizeLimit(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limit{bytes, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+  private:
+    void (*handler_)(int);
+    rlimit before_{};
+};
+
+TEST_F(FilesTest, FailedWriteLeavesTheOldFileWhole) {
+    replace_file(path("x.csv"), "old");
+    for (const std::size_t size : {std::size_t{101}, std::size_t{5'000'000}}) {
+        std::optional<FileSizeLimit> limit(100);
+        expect_error(ErrorNumber::path_file_access, "x.csv",
+                     [&] { replace_file(path("x.csv"), std::string(size, 'n')); });
+        limit.reset();
+        EXPECT_EQ(read_file(path("x.csv")), "old");
+        EXPECT_EQ(names(), QStringList("x.csv"));
+    }
+}
+
+TEST_F(FilesTest, MissingPermissionIsAnError) {
+    if (geteuid() == 0)
+        GTEST_SKIP() << "the superuser may do everything";
+    replace_file(path("x.csv"), "old");
+    QFile::setPermissions(folder.filePath("x.csv"), {});
+    expect_error(ErrorNumber::permission_denied, "x.csv", [&] { read_file(path("x.csv")); });
+    QFile::setPermissions(folder.filePath("x.csv"), QFile::ReadOwner | QFile::WriteOwner);
+    QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::ExeOwner);
+    expect_error(ErrorNumber::permission_denied, "new.csv",
+                 [&] { replace_file(path("new.csv"), "new"); });
+    QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    EXPECT_EQ(read_file(path("x.csv")), "old");
+}
+
+#endif
+
+} // namespace

@@ -1,0 +1,127 @@
+#include "support/map_window.h"
+
+/// What pointing at the maps and clicking on them does.
+namespace {
+
+using namespace map_window;
+
+TEST_F(Form1, ShowsOneOfTheMaps) {
+    session.maps.map_2_path = folder.write("2.bmp", plain_map(0xFF112233));
+    session.port_placement.stage = 1;
+    open();
+    EXPECT_EQ(session.port_placement.stage, 0);
+    EXPECT_EQ(form->sizeHint(), QSize(width, height));
+    EXPECT_TRUE(form->has_map_2());
+    struct Row {
+        map::Shown which;
+        const char* name;
+        QRgb colour;
+    };
+    for (const Row row : {Row{map::Shown::map_2, "Picture2", 0xFF112233},
+                          Row{map::Shown::id_map, "Picture_id", 0xFF800000},
+                          Row{map::Shown::map_1, "Picture1", paper}}) {
+        form->show_map(row.which);
+        for (const char* name : {"Picture1", "Picture2", "Picture_id"})
+            EXPECT_EQ(surface(name)->isVisible(), std::string(name) == row.name) << name;
+        EXPECT_EQ(seen(row.name).pixel(50, 50), row.colour);
+        EXPECT_EQ(form->grab().toImage().pixel(50, 50), row.colour);
+        clicked.clear();
+        QTest::mouseClick(surface(row.name), Qt::LeftButton, {}, {450, 350});
+        EXPECT_EQ(clicked, "32 ") << row.name;
+    }
+}
+
+TEST_F(Form1, WithoutMap2ItCannotBeChosen) {
+    open();
+    EXPECT_FALSE(form->has_map_2());
+    form->show_map(map::Shown::map_2);
+    EXPECT_TRUE(surface()->isVisible());
+}
+
+TEST_F(Form1, UnreadableImageIsAnError) {
+    for (std::string map::Maps::*path :
+         {&map::Maps::map_1_path, &map::Maps::map_2_path, &map::Maps::id_map_path}) {
+        shell::Session broken;
+        broken.maps = session.maps;
+        broken.maps.*path = folder.path("absent.bmp");
+        EXPECT_THROW(map::Form1{broken}, data::RunTimeError);
+    }
+}
+
+TEST_F(Form1, ClickSelects) {
+    struct Row {
+        Qt::MouseButton button = Qt::NoButton;
+        Qt::KeyboardModifiers keys;
+        const char* clicked = "";
+    };
+    const Row rows[] = {
+        {Qt::LeftButton, Qt::NoModifier, "14 "},
+        {Qt::RightButton, Qt::NoModifier, "14 "},
+        {Qt::MiddleButton, Qt::NoModifier, "14 "},
+        {Qt::LeftButton, Qt::ControlModifier, "+14 "},
+        {Qt::LeftButton, Qt::ShiftModifier, ""},
+        {Qt::LeftButton, Qt::AltModifier, ""},
+        {Qt::LeftButton, Qt::ControlModifier | Qt::ShiftModifier, ""},
+        {Qt::LeftButton, Qt::ControlModifier | Qt::AltModifier, ""},
+    };
+    open();
+    for (const auto& row : rows) {
+        clicked.clear();
+        click({450, 150}, row.button, row.keys);
+        EXPECT_EQ(clicked, row.clicked);
+    }
+    EXPECT_FALSE(session.provinces.has_unsaved_changes());
+}
+
+TEST_F(Form1, MoveNamesTheProvinceWhileNoButtonIsHeld) {
+    session.maps.map_1_path = folder.write("1.bmp", plain_map(paper, width + 50));
+    open({width + 50, height});
+    QSignalSpy pointed(form.get(), &map::Form1::pointed);
+    QTest::mouseMove(surface(), {250, 50});
+    ASSERT_EQ(pointed.count(), 1);
+    EXPECT_EQ(pointed.takeFirst().at(0).toInt(), 3);
+    QTest::mousePress(surface(), Qt::LeftButton, {}, {250, 50});
+    QTest::mouseMove(surface(), {350, 50});
+    EXPECT_EQ(pointed.count(), 0) << "a button is held";
+    QTest::mouseRelease(surface(), Qt::LeftButton, {}, {width + 10, 50});
+    EXPECT_EQ(clicked, "") << "released outside the ID map";
+    QTest::mouseMove(surface(), {width + 20, 50});
+    EXPECT_EQ(pointed.count(), 0) << "outside the ID map";
+}
+
+TEST_F(Form1, EntersThePressForTheProvinceOfTheRelease) {
+    session.mode = Mode::ville;
+    session.maps.x_offset = 10.25;
+    session.maps.y_offset = 5;
+    open();
+    QTest::mousePress(surface(), Qt::LeftButton, {}, {120, 45});
+    QTest::mouseRelease(surface(), Qt::LeftButton, {}, {250, 50});
+    EXPECT_EQ(city(3), "130.25,50");
+    EXPECT_EQ(city(2), ",");
+    EXPECT_EQ(clicked, "");
+    click({250, 50}, Qt::MiddleButton);
+    EXPECT_EQ(city(3), "130.25,50");
+    click({250, 50}, Qt::RightButton);
+    EXPECT_EQ(city(3), "-1,-1");
+    click({310, 50});
+    QTest::mouseDClick(surface(), Qt::LeftButton, {}, {320, 60});
+    QTest::mouseRelease(surface(), Qt::LeftButton, {}, {320, 60});
+    EXPECT_EQ(city(4), "330.25,65");
+}
+
+TEST_F(Form1, RoundsTheYOfThePress) {
+    session.mode = Mode::ville;
+    open();
+    for (const auto& [y, stored] : {std::pair(10.5, "20.5,10"), std::pair(11.5, "20.5,12")}) {
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            const QPointF point(20.5, y);
+            QMouseEvent event(type, point, surface()->mapToGlobal(point), Qt::LeftButton,
+                              type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                              Qt::NoModifier);
+            QCoreApplication::sendEvent(surface(), &event);
+        }
+        EXPECT_EQ(city(1), stored);
+    }
+}
+
+} // namespace
