@@ -151,7 +151,8 @@ void memory_of_three_maps(benchmark::State& state) {
     for ([[maybe_unused]] auto _ : state) {
         const double before = memory();
         const auto window = shown_window(*session);
-        for (const auto shown : {map::Shown::map_2, map::Shown::id_map, map::Shown::map_1}) {
+        for (const auto shown :
+             {map::ShownMap::map_2, map::ShownMap::id_map, map::ShownMap::map_1}) {
             window->show_map(shown);
             QCoreApplication::processEvents();
         }

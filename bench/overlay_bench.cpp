@@ -64,7 +64,7 @@ struct World {
     void place(int province, int x, int y) {
         load(province, {8}, province % 9);
         load(province, {14}, province % 7);
-        load(province, map::sea_of_port, 1 + (province * 7) % data::last_province);
+        load(province, data::column::port_sea, 1 + (province * 7) % data::last_province);
         for (const auto& columns : map::position_columns) {
             const int number =
                 columns.drawing == map::PositionColumns::no_drawing ? 0 : columns.drawing;

@@ -65,7 +65,7 @@ void ProvinceRow::set(data::FileColumn x, Pixel position) {
 void ProvinceRow::set_goods(std::string_view goods, int gold_value) {
     const bool is_gold = goods == "gold";
     set(column::goods, goods);
-    set(column::mine, is_gold);
+    set(column::mine_flag, is_gold);
     set(column::mine_value, is_gold ? gold_value : 0);
 }
 

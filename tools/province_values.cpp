@@ -160,20 +160,21 @@ class Describer {
     }
 
     void places() {
-        row_.set(column::city, positions_.city);
-        row_.set(column::army, positions_.army);
-        row_.set(column::port, positions_.port);
-        row_.set(column::manufactory, positions_.manufactory);
+        row_.set(column::city_x, positions_.city);
+        row_.set(column::army_x, positions_.army);
+        row_.set(column::port_x, positions_.port);
+        row_.set(column::manufactory_x, positions_.manufactory);
         row_.set(column::port_sea, positions_.sea);
         // Open country keeps some of its room free.
         const int room = static_cast<int>(positions_.drawings.size());
         const int drawn =
             terrain_ == TerrainCode::plains ? random_.below(room + 1) : std::max(room, 0);
-        for (int drawing = 0; drawing < static_cast<int>(column::drawings.size()); ++drawing) {
+        for (int drawing = 0; drawing < static_cast<int>(column::drawing_x.size()); ++drawing) {
             const auto index = static_cast<std::size_t>(drawing);
             const bool has = drawing < drawn;
-            row_.set(column::drawings[index], has ? positions_.drawings[index] : Pixel{-100, -100});
-            row_.set(column::variants[index], has ? random_.below(8) : 0);
+            row_.set(column::drawing_x[index],
+                     has ? positions_.drawings[index] : Pixel{-100, -100});
+            row_.set(column::drawing_variant[index], has ? random_.below(8) : 0);
         }
     }
 

@@ -38,38 +38,39 @@ std::string_view treaty_code(std::string_view spain, std::string_view portugal) 
 
 void choose(data::ProvinceTable& table, const Selection& selection, const Field& field,
             std::string_view code) {
-    if (field.shown == Shown::treaty) {
+    if (field.display == Display::treaty) {
         for (const auto& treaty : treaties) {
             if (!data::equal_ignoring_case(treaty.code, code))
                 continue;
-            changement(table, selection, treaty.portugal, treaty_portugal);
-            changement(table, selection, treaty.spain, treaty_spain);
+            changement(table, selection, treaty.portugal,
+                       data::field_number(data::column::treaty_portugal));
+            changement(table, selection, treaty.spain,
+                       data::field_number(data::column::treaty_spain));
         }
         return;
     }
     changement(table, selection, code, field.number);
-    if (field.number == goods)
-        changement(table, selection, data::equal_ignoring_case(code, gold) ? "1" : "0", mine_flag);
+    if (field.number == data::field_number(data::column::goods))
+        changement(table, selection, data::equal_ignoring_case(code, gold) ? "1" : "0",
+                   data::field_number(data::column::mine_flag));
 }
 
 std::string_view value_after_press(const Field& field, bool checked) {
-    if (field.shown == Shown::coast)
+    if (field.display == Display::coast)
         return checked ? inland : coastal;
     return checked ? "0" : "1";
 }
 
 bool is_checked(const Field& field, std::string_view value) {
-    return field.shown == Shown::coast ? data::equal_ignoring_case(value, coastal)
-                                       : data::leading_number(value) == 1;
+    return field.display == Display::coast ? data::equal_ignoring_case(value, coastal)
+                                           : data::leading_number(value) == 1;
 }
 
 MergedValues shown_values(const data::ProvinceTable& table, const Selection& selection) {
     auto values = merged_values(table, selection);
-    const auto value = [&](data::FieldNumber field) -> std::string& {
-        return values.at(static_cast<std::size_t>(field.number - 1));
-    };
+    std::string& spain = values[data::field_number(data::column::treaty_spain)];
     if (!selection.provinces().empty())
-        value(treaty_spain) = treaty_code(value(treaty_spain), value(treaty_portugal));
+        spain = treaty_code(spain, values[data::field_number(data::column::treaty_portugal)]);
     return values;
 }
 

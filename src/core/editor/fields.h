@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/columns.h"
+#include "data/message.h"
 
 #include <array>
 #include <optional>
@@ -11,7 +12,7 @@
 namespace editor {
 
 /// How a merged value is put into its control.
-enum class Shown {
+enum class Display {
     nowhere,
     text,     // text field
     slider,   // text field with a slider beside it
@@ -26,22 +27,14 @@ enum class Shown {
 
 struct Field {
     data::FieldNumber number;
-    Shown shown;
+    Display display;
     std::string_view control;     // object name in UTF-8, with its index where it has one
     std::string_view list_prefix; // prefix of the language file's value list, if any
     std::size_t list_entry = 0;   // of a box: the list's entry that captions it
 };
 
-/// The fields by field number, field 1 at index 0.
-extern const std::array<Field, data::table_columns> fields;
-
-/// Returns the field's row of the table above.
-const Field& field(data::FieldNumber number);
-
-inline constexpr data::FieldNumber mine_flag{17}; // follows the goods, has no control
-inline constexpr data::FieldNumber goods{19};
-inline constexpr data::FieldNumber treaty_spain{14};
-inline constexpr data::FieldNumber treaty_portugal{15};
+/// The fields by their number.
+extern const data::FieldArray<Field> fields;
 
 /// A text field with a slider: what may be entered, and how the slider stands for it.
 struct NumericField {
@@ -49,12 +42,14 @@ struct NumericField {
     std::string_view slider; // object name in UTF-8
     double highest;          // 0 is the lowest value
     int slider_factor;       // slider position = value x factor
-    int message;             // message text for a value outside the range
+    data::Message message;   // for a value outside the range
 };
 
 inline constexpr std::array<NumericField, 2> numeric_fields = {{
-    {{24}, "férocité_s", 5, 4, 2},
-    {{25}, "efficacité_s", 2, 10, 1},
+    {data::field_number(data::column::ferocity), "férocité_s", 5, 4,
+     data::Message::ferocity_out_of_range},
+    {data::field_number(data::column::efficiency), "efficacité_s", 2, 10,
+     data::Message::efficiency_out_of_range},
 }};
 
 /// Returns the text as it is stored (decimal point for comma); nothing when its number is outside

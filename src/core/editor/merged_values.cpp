@@ -27,9 +27,9 @@ std::string_view merged_value(std::span<const std::string> column, std::span<con
 
 MergedValues merged_values(const data::ProvinceTable& table, const Selection& selection) {
     MergedValues values;
-    for (data::TableColumn column{0}; column.index < data::table_columns; ++column.index)
-        values[static_cast<std::size_t>(column.index)] =
-            merged_value(table.column(column), selection.provinces());
+    for (data::FieldNumber field{1}; field.number <= data::table_columns; ++field.number)
+        values[field] =
+            merged_value(table.column(data::table_column(field)), selection.provinces());
     return values;
 }
 

@@ -3,13 +3,11 @@
 #include "data/province_table.h"
 #include "editor/selection.h"
 
-#include <array>
 #include <string>
 
 namespace editor {
 
-/// One text for each field, field 1 at index 0.
-using MergedValues = std::array<std::string, data::table_columns>;
+using MergedValues = data::FieldArray<std::string>;
 
 /// Returns each field's common value over the selected provinces, in the spelling of the first one;
 /// empty where they differ in more than letter case, and where nothing is selected.

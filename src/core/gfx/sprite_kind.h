@@ -1,7 +1,7 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
+#include "data/indexed_array.h"
+
 #include <optional>
 #include <string_view>
 
@@ -18,7 +18,7 @@ struct SpriteKindInfo {
 };
 
 /// The kinds, in the order of the enumeration.
-inline constexpr std::array<SpriteKindInfo, 4> sprite_kinds = {{
+inline constexpr data::IndexedArray<SpriteKind, SpriteKindInfo, 4> sprite_kinds = {{{
     {SpriteKind::manuf, "manuf", 4, 2},
     {SpriteKind::ville, "ville", 6, 3},
     {SpriteKind::armees,
@@ -26,11 +26,15 @@ inline constexpr std::array<SpriteKindInfo, 4> sprite_kinds = {{
      "es",
      12, 4},
     {SpriteKind::port, "port", 4, 2},
-}};
+}}};
+
+/// One value for each kind.
+template <typename Value>
+using KindArray = data::IndexedArray<SpriteKind, Value, 4>;
 
 /// Returns the kind's row of the table above.
 constexpr const SpriteKindInfo& info(SpriteKind kind) {
-    return sprite_kinds.at(static_cast<std::size_t>(kind));
+    return sprite_kinds[kind];
 }
 
 /// Returns the kind that the word names, letter case aside; nothing for any other word.

@@ -2,7 +2,6 @@
 
 #include "gfx/sprite_kind.h"
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -30,10 +29,8 @@ class SpriteTables {
   public:
     SpriteTables();
 
-    SpriteTable& of(SpriteKind kind) { return tables_.at(static_cast<std::size_t>(kind)); }
-    const SpriteTable& of(SpriteKind kind) const {
-        return tables_.at(static_cast<std::size_t>(kind));
-    }
+    SpriteTable& of(SpriteKind kind) { return tables_[kind]; }
+    const SpriteTable& of(SpriteKind kind) const { return tables_[kind]; }
 
     /// Reads a descriptor file's bytes into the tables of its kind; a kind that is none is read
     /// without effect. Throws subscript out of range for a row beyond the kind's capacity, invalid
@@ -47,7 +44,7 @@ class SpriteTables {
     void take_rows_out(SpriteKind kind, std::string_view set_name);
 
   private:
-    std::array<SpriteTable, sprite_kinds.size()> tables_;
+    KindArray<SpriteTable> tables_;
 };
 
 } // namespace gfx

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
+#include "data/indexed_array.h"
+
 #include <string_view>
 
 namespace map {
@@ -16,18 +16,18 @@ struct ModeInfo {
 };
 
 /// The modes, in the order of the enumeration.
-inline constexpr std::array<ModeInfo, 6> modes = {{
+inline constexpr data::IndexedArray<Mode, ModeInfo, 6> modes = {{{
     {Mode::normal, "normal", 1},
     {Mode::ville, "ville_menu", 3},
     {Mode::armees, "armées_menu", 4},
     {Mode::port, "port_menu", 2},
     {Mode::manuf, "manuf_menu", 5},
     {Mode::dessin, "dessin_menu", 6},
-}};
+}}};
 
 /// Returns the mode's row of the table above.
 constexpr const ModeInfo& info(Mode mode) {
-    return modes.at(static_cast<std::size_t>(mode));
+    return modes[mode];
 }
 
 } // namespace map

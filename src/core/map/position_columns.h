@@ -17,20 +17,21 @@ struct PositionColumns {
     data::FileColumn y;
 
     /// Returns the column of a terrain drawing's variant.
-    constexpr data::FileColumn variant() const { return {y.number + 1}; }
+    constexpr data::FileColumn variant() const {
+        return data::column::drawing_variant.at(static_cast<std::size_t>(drawing));
+    }
 };
 
 inline constexpr std::array<PositionColumns, 8> position_columns = {{
-    {Mode::ville, PositionColumns::no_drawing, {29}, {30}},
-    {Mode::armees, PositionColumns::no_drawing, {31}, {32}},
-    {Mode::manuf, PositionColumns::no_drawing, {35}, {36}},
-    {Mode::dessin, 0, {38}, {39}},
-    {Mode::dessin, 1, {41}, {42}},
-    {Mode::dessin, 2, {44}, {45}},
-    {Mode::dessin, 3, {47}, {48}},
-    {Mode::port, PositionColumns::no_drawing, {33}, {34}},
+    {Mode::ville, PositionColumns::no_drawing, data::column::city_x, data::column::city_y},
+    {Mode::armees, PositionColumns::no_drawing, data::column::army_x, data::column::army_y},
+    {Mode::manuf, PositionColumns::no_drawing, data::column::manufactory_x,
+     data::column::manufactory_y},
+    {Mode::dessin, 0, data::column::drawing_x[0], data::column::drawing_y[0]},
+    {Mode::dessin, 1, data::column::drawing_x[1], data::column::drawing_y[1]},
+    {Mode::dessin, 2, data::column::drawing_x[2], data::column::drawing_y[2]},
+    {Mode::dessin, 3, data::column::drawing_x[3], data::column::drawing_y[3]},
+    {Mode::port, PositionColumns::no_drawing, data::column::port_x, data::column::port_y},
 }};
-
-inline constexpr data::FileColumn sea_of_port{37};
 
 } // namespace map

@@ -41,7 +41,7 @@ void place(data::ProvinceTable& provinces, const PositionColumns& columns, const
 bool press_left(const PositionColumns& columns, const Click& click, const Maps& maps,
                 PortPlacement& port, data::ProvinceTable& provinces) {
     if (columns.mode == Mode::port && port.stage == 1) {
-        write(provinces, port.province, sea_of_port, std::to_string(click.province));
+        write(provinces, port.province, data::column::port_sea, std::to_string(click.province));
         port.stage = 0;
         return true;
     }
@@ -58,7 +58,7 @@ bool press_left(const PositionColumns& columns, const Click& click, const Maps& 
 bool press_right(const PositionColumns& columns, const Click& click, PortPlacement& port,
                  data::ProvinceTable& provinces) {
     if (columns.mode == Mode::port) {
-        write(provinces, click.province, sea_of_port, "0");
+        write(provinces, click.province, data::column::port_sea, "0");
         port.stage = 0;
     }
     write(provinces, click.province, columns.x, none);

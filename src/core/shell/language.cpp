@@ -89,8 +89,8 @@ std::optional<std::string> LanguageTexts::exact_caption(std::string_view key) co
     return caption;
 }
 
-const std::string& LanguageTexts::message(int number) const {
-    return message_texts_.at(static_cast<std::size_t>(number - 1));
+const std::string& LanguageTexts::message(data::Message message) const {
+    return message_texts_.at(static_cast<std::size_t>(message) - 1);
 }
 
 const std::string& LanguageTexts::status(int number) const {

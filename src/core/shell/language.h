@@ -1,5 +1,7 @@
 #pragma once
 
+#include "data/message.h"
+
 #include <array>
 #include <optional>
 #include <span>
@@ -62,8 +64,8 @@ class LanguageTexts {
     /// Returns the caption of a dialog's key, spelled exactly so; of several the last.
     std::optional<std::string> exact_caption(std::string_view key) const;
 
-    /// Returns message text 1 to 18; empty when the file lacks it.
-    const std::string& message(int number) const;
+    /// Returns the message's text; empty when the file lacks it.
+    const std::string& message(data::Message message) const;
 
     /// Returns status text 1 to 7; empty when the file lacks it.
     const std::string& status(int number) const;

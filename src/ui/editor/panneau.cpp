@@ -50,8 +50,8 @@ Panneau::Panneau(shell::Session& session, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addWidget(build_selection_row());
     build_tabs();
-    std::transform(fields.begin(), fields.end(), shows_.begin(),
-                   [this](const Field& field) { return bind(field); });
+    for (const Field& field : fields)
+        shows_[field.number] = bind(field);
     align(*this);
     show_selection();
     setFixedWidth(minimumSizeHint().width());
@@ -111,9 +111,9 @@ void Panneau::set_selection_text(const std::string& text) {
 
 void Panneau::show_selection() {
     const auto values = shown_values(session_.provinces, session_.selection);
-    for (std::size_t n = 0; n < shows_.size(); ++n) {
-        if (shows_[n])
-            shows_[n](values[n]);
+    for (const Field& field : fields) {
+        if (const Show& show = shows_[field.number])
+            show(values[field.number]);
     }
 }
 
@@ -155,23 +155,23 @@ void Panneau::write(const std::string& value, data::FieldNumber field) {
 }
 
 Panneau::Show Panneau::bind(const Field& field) {
-    switch (field.shown) {
-    case Shown::nowhere:
+    switch (field.display) {
+    case Display::nowhere:
         return {};
-    case Shown::text:
+    case Display::text:
         return bind_text(field);
-    case Shown::slider:
+    case Display::slider:
         return bind_slider(field);
-    case Shown::group:
-    case Shown::treaty:
+    case Display::group:
+    case Display::treaty:
         return bind_group(field);
-    case Shown::list:
+    case Display::list:
         return bind_list(field);
-    case Shown::box:
-    case Shown::coast:
+    case Display::box:
+    case Display::coast:
         return bind_box(field);
-    case Shown::position:
-    case Shown::variant:
+    case Display::position:
+    case Display::variant:
         return bind_label(field);
     }
     return {};

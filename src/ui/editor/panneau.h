@@ -6,7 +6,6 @@
 
 #include <QWidget>
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <string>
@@ -75,7 +74,7 @@ class Panneau : public QWidget {
 
     shell::Session& session_;
     QLineEdit* selection_text_;
-    std::array<Show, data::table_columns> shows_;
+    data::FieldArray<Show> shows_;
     std::vector<std::unique_ptr<OptionGroup>> groups_;
     std::vector<Entry> entries_;
 };

@@ -18,8 +18,6 @@ namespace gfx {
 namespace {
 
 constexpr std::int16_t confirmed = 2; // the cancelled flag's value until the dialog is closed
-constexpr int message_offset_missing = 14;
-constexpr int message_map_missing = 16;
 constexpr int initial_width = 620;
 constexpr int browse_width = 40;
 constexpr int offset_width = 90;
@@ -129,11 +127,12 @@ void Form2::browse(int index) {
 
 void Form2::confirm() {
     if (x_offset_->text().isEmpty() || y_offset_->text().isEmpty()) {
-        base::show_message(session_, this, session_.language.message(message_offset_missing));
+        base::show_message(session_, this,
+                           session_.language.message(data::Message::offset_missing));
         return;
     }
     if (path_field(0)->text().isEmpty() || path_field(2)->text().isEmpty()) {
-        base::show_message(session_, this, session_.language.message(message_map_missing));
+        base::show_message(session_, this, session_.language.message(data::Message::map_missing));
         return;
     }
     session_.cancelled_flag = confirmed;

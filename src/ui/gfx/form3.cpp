@@ -22,7 +22,6 @@ namespace gfx {
 
 namespace {
 
-constexpr int message_set_limit_reached = 3;
 constexpr QSize initial_size(640, 560);
 
 /// A kind's row of the dialog, and its heading where the language file has none.
@@ -58,7 +57,7 @@ Form3::Form3(shell::Session& session, QWidget* owner)
 QListWidget* Form3::make_list(SpriteKind kind) {
     auto* made = new QListWidget(this);
     made->setObjectName(control_name("List_", kind));
-    lists_.at(static_cast<std::size_t>(kind)) = made;
+    lists_[kind] = made;
     return made;
 }
 
@@ -145,7 +144,8 @@ void Form3::show_sets(SpriteKind kind) {
 void Form3::add_sets(SpriteKind kind) {
     auto& graphics = session_.graphics;
     if (graphics.sprites.of(kind).count >= info(kind).set_limit) {
-        base::show_message(session_, this, session_.language.message(message_set_limit_reached));
+        base::show_message(session_, this,
+                           session_.language.message(data::Message::set_limit_reached));
         return;
     }
     const std::string file = files_->file_name();

@@ -5,7 +5,6 @@
 
 #include <QDialog>
 
-#include <array>
 #include <string>
 
 class QListWidget;
@@ -40,12 +39,12 @@ class Form3 : public QDialog {
     void take_set_out(SpriteKind kind);
     void choose_folder(ChooserKind kind);
 
-    QListWidget& list(SpriteKind kind) const { return *lists_.at(static_cast<std::size_t>(kind)); }
+    QListWidget& list(SpriteKind kind) const { return *lists_[kind]; }
 
     shell::Session& session_;
     FileList* files_;
-    std::string folder_;                                    // of the files, stored and absolute
-    std::array<QListWidget*, sprite_kinds.size()> lists_{}; // by sprite kind
+    std::string folder_; // of the files, stored and absolute
+    KindArray<QListWidget*> lists_{};
 };
 
 } // namespace gfx

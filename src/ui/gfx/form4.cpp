@@ -41,8 +41,6 @@ constexpr std::array<Location, 5> locations = {{
     {"BMP", &shell::Configuration::map_bitmap_path, "*.bmp", false},
 }};
 
-constexpr int message_name_missing = 4;
-constexpr int message_terrain_art_incomplete = 5;
 constexpr std::string_view province_file_extension = ".csv";
 constexpr QSize initial_size(640, 420);
 
@@ -239,13 +237,14 @@ void Form4::confirm_terrain_art() {
         flag = 1;
         return;
     }
-    base::show_message(session_, this, session_.language.message(message_terrain_art_incomplete));
+    base::show_message(session_, this,
+                       session_.language.message(data::Message::terrain_art_incomplete));
     flag = 0;
     activate();
 }
 
 void Form4::report_missing_name() {
-    base::show_message(session_, this, session_.language.message(message_name_missing));
+    base::show_message(session_, this, session_.language.message(data::Message::name_missing));
 }
 
 std::string& Form4::path() const {

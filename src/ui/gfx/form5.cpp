@@ -15,7 +15,6 @@ namespace gfx {
 
 namespace {
 
-constexpr int message_name_missing = 4;
 constexpr int smallest_width = 320; // pixels, for the title
 
 } // namespace
@@ -47,7 +46,7 @@ Form5::Form5(shell::Session& session, QWidget* owner)
 void Form5::confirm() {
     const std::string name = base::to_bytes(name_->text());
     if (name.empty()) {
-        base::show_message(session_, this, session_.language.message(message_name_missing));
+        base::show_message(session_, this, session_.language.message(data::Message::name_missing));
         return;
     }
     session_.graphics.current_set_name = name;

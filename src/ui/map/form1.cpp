@@ -62,10 +62,10 @@ Form1::Form1(shell::Session& session, QWidget* parent)
       surfaces_(new QWidget) {
     setObjectName(QStringLiteral("Form1"));
     surfaces_->setAttribute(Qt::WA_OpaquePaintEvent); // the visible surface covers it
-    add_picture(Shown::map_1, "Picture1", map_1_);
+    add_picture(ShownMap::map_1, "Picture1", map_1_);
     if (map_2_)
-        add_picture(Shown::map_2, "Picture2", *map_2_);
-    add_picture(Shown::id_map, "Picture_id", id_map_);
+        add_picture(ShownMap::map_2, "Picture2", *map_2_);
+    add_picture(ShownMap::id_map, "Picture_id", id_map_);
 
     scroll_area_->setFrameShape(QFrame::NoFrame);
     scroll_area_->setFocusPolicy(Qt::NoFocus); // the surface has it
@@ -78,10 +78,10 @@ Form1::Form1(shell::Session& session, QWidget* parent)
 
     overlay_.on_problem = [this](const QString& text) { emit problem(text); };
     session_.port_placement.stage = 0;
-    show_map(Shown::map_1);
+    show_map(ShownMap::map_1);
 }
 
-void Form1::add_picture(Shown which, const char* name, const MapImage& image) {
+void Form1::add_picture(ShownMap which, const char* name, const MapImage& image) {
     auto* picture = new Picture(
         image, [this](QPainter& painter, const QRect& exposed) { draw_above(painter, exposed); },
         surfaces_);
@@ -96,7 +96,7 @@ QSize Form1::sizeHint() const {
     return id_map_.size();
 }
 
-void Form1::show_map(Shown which) {
+void Form1::show_map(ShownMap which) {
     Picture* shown = pictures_.at(static_cast<std::size_t>(which));
     if (shown == nullptr)
         return;
@@ -114,7 +114,7 @@ void Form1::show_map(Shown which) {
 }
 
 void Form1::refresh() {
-    for (const Shown which : {Shown::map_2, Shown::map_1, Shown::id_map}) {
+    for (const ShownMap which : {ShownMap::map_2, ShownMap::map_1, ShownMap::id_map}) {
         if (Picture* picture = pictures_.at(static_cast<std::size_t>(which)))
             picture->update();
     }

@@ -4,6 +4,7 @@
 #include "map/overlay_preview.h"
 #include "map/position_entry.h"
 #include "map/selection_dots.h"
+#include "map/shown_map.h"
 #include "shell/session.h"
 
 #include <QPoint>
@@ -18,8 +19,6 @@ class QScrollArea;
 namespace map {
 
 class Picture;
-
-enum class Shown { map_1, map_2, id_map };
 
 /// The map window: shows one of the maps, and turns clicks on it into selections and positions.
 class Form1 : public QWidget {
@@ -36,7 +35,7 @@ class Form1 : public QWidget {
     bool has_map_2() const { return map_2_.has_value(); }
 
     /// Makes the map the visible one; without a map 2 it cannot be chosen.
-    void show_map(Shown which);
+    void show_map(ShownMap which);
 
     /// Redraws the maps from the current data.
     void refresh();
@@ -70,7 +69,7 @@ class Form1 : public QWidget {
         int province = 0;
     };
 
-    void add_picture(Shown which, const char* name, const MapImage& image);
+    void add_picture(ShownMap which, const char* name, const MapImage& image);
     void press(const QMouseEvent& event);
     void move(const QMouseEvent& event);
     void release(const QMouseEvent& event);

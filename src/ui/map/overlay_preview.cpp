@@ -27,9 +27,6 @@ constexpr int label_height = 14;
 constexpr int label_gap = 4; // between a port and the id of its sea
 constexpr int largest_shown_id = 32767;
 
-constexpr data::FileColumn climate_column{8};
-constexpr data::FileColumn terrain_column{14};
-
 constexpr QColor pointed_colour(255, 255, 0);
 constexpr QColor label_colour(0, 0, 96);
 constexpr QColor waiting_colour(255, 128, 0);
@@ -49,13 +46,6 @@ std::optional<gfx::SpriteKind> sprite_kind(Mode mode) {
         break;
     }
     return {};
-}
-
-data::FileColumn variant_column(int drawing) {
-    const auto* columns =
-        std::find_if(position_columns.begin(), position_columns.end(),
-                     [drawing](const auto& candidate) { return candidate.drawing == drawing; });
-    return columns->variant();
 }
 
 QImage draw_marker() {
@@ -169,7 +159,7 @@ OverlayPreview::Look OverlayPreview::look_of(const StoredPosition& position) con
 
 OverlayPreview::Look OverlayPreview::sprite_look(gfx::SpriteKind kind) const {
     const auto& rows = session_.graphics.sprites.of(kind).rows;
-    const auto row = static_cast<std::size_t>(session_.graphics.previewed(kind));
+    const auto row = static_cast<std::size_t>(session_.graphics.previewed_row[kind]);
     if (row >= rows.size() || rows[row].bitmap_path.empty())
         return marker_look(
             QStringLiteral("The item that the graphics menu has checked holds no sprite set"));
@@ -187,7 +177,8 @@ OverlayPreview::Look OverlayPreview::drawing_look(const StoredPosition& position
         return session_.provinces.cell(position.province, data::table_column(column));
     };
     const Bitmap& art = terrain_art(gfx::terrain_art_file(
-        cell(terrain_column), cell(climate_column), cell(variant_column(position.drawing))));
+        cell(data::column::terrain), cell(data::column::climate),
+        cell(data::column::drawing_variant.at(static_cast<std::size_t>(position.drawing)))));
     if (art.image.isNull())
         return marker_look(art.problem);
     return {&art.image, {art.image.width() / 2, art.image.height() / 2}, {}};
@@ -231,8 +222,8 @@ Area OverlayPreview::area_reaching_into(const QRect& exposed) const {
 QImage OverlayPreview::label_of(int province) const {
     if (session_.mode != Mode::port)
         return {};
-    const double sea =
-        data::leading_number(session_.provinces.cell(province, data::table_column(sea_of_port)));
+    const double sea = data::leading_number(
+        session_.provinces.cell(province, data::table_column(data::column::port_sea)));
     if (sea < 1 || sea > largest_shown_id)
         return {};
     return label(static_cast<int>(sea));

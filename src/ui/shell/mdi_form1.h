@@ -40,7 +40,7 @@ class MDIForm1 : public QMainWindow {
     void gfx();
     void enregister();
     void quitter();
-    void show_map(map::Shown shown);
+    void show_map(map::ShownMap shown);
     void enter_mode(map::Mode mode);
     /// Previews the set of a kind's item, counted from 1.
     void preview(gfx::SpriteKind kind, int item);
@@ -80,7 +80,7 @@ class MDIForm1 : public QMainWindow {
     void apply_selection();
     void show_status_text(int number);
     void check_mode();
-    void check_map(map::Shown shown);
+    void check_map(map::ShownMap shown);
     void enable_map_items(bool enabled);
 
     /// Returns the map window, made anew when it was closed; none without maps.

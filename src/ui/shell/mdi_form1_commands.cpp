@@ -23,11 +23,6 @@ namespace shell {
 
 namespace {
 
-constexpr int open_question = 15; // message texts
-constexpr int save_question = 17;
-constexpr int language_notice = 18;
-constexpr int malformed_selection = 7;
-
 /// The kinds of the graphics menu: the array of its items, and the item of position entry.
 struct PreviewMenu {
     gfx::SpriteKind kind;
@@ -60,7 +55,7 @@ void MDIForm1::ouvrir_cartes() {
 }
 
 void MDIForm1::ouvrir_csv() {
-    if (!base::ask(session_, this, session_.language.message(open_question),
+    if (!base::ask(session_, this, session_.language.message(data::Message::open_question),
                    base::DefaultAnswer::no))
         return;
     session_.chooser_kind = gfx::ChooserKind::CSV;
@@ -118,7 +113,7 @@ void MDIForm1::check_mode() {
 }
 
 void MDIForm1::preview(gfx::SpriteKind kind, int item) {
-    session_.graphics.previewed(kind) = item - 1;
+    session_.graphics.previewed_row[kind] = item - 1;
     show_graphics();
 }
 
@@ -142,7 +137,7 @@ void MDIForm1::options() {
             auto* entry = action(name);
             entry->setText(set_name.empty() ? entry->data().toString() : escaped(set_name));
             entry->setEnabled(!set_name.empty());
-            entry->setChecked(session_.graphics.previewed(menu.kind) == item - 1);
+            entry->setChecked(session_.graphics.previewed_row[menu.kind] == item - 1);
         }
         const bool has_set = std::any_of(rows.begin(), rows.end(), [](const gfx::Sprite& sprite) {
             return !sprite.set_name.empty();
@@ -160,7 +155,7 @@ void MDIForm1::options() {
 void MDIForm1::choose_language(int item) {
     session_.configuration.language_file =
         base::to_bytes(languages_.at(item) + QStringLiteral(".lng"));
-    base::show_message(session_, this, session_.language.message(language_notice));
+    base::show_message(session_, this, session_.language.message(data::Message::language_notice));
 }
 
 void MDIForm1::propos() {
@@ -176,7 +171,8 @@ void MDIForm1::apply_selection() {
     const std::string text = panel_->selection_text();
     panel_->write_typed_text(); // a shortcut selects without taking the focus from a field
     if (!editor::is_well_formed(text))
-        base::show_message(session_, this, session_.language.message(malformed_selection));
+        base::show_message(session_, this,
+                           session_.language.message(data::Message::malformed_selection));
     try {
         session_.selection.apply(text);
     } catch (const data::RunTimeError& error) {
@@ -196,7 +192,7 @@ void MDIForm1::keep_typed_text() {
 void MDIForm1::closeEvent(QCloseEvent* event) {
     panel_->write_typed_text();
     if (!session_.maps.id_map_path.empty() &&
-        base::ask(session_, this, session_.language.message(save_question),
+        base::ask(session_, this, session_.language.message(data::Message::save_question),
                   base::DefaultAnswer::yes))
         enregister();
     base::replace_file(base::in_folder(session_.program_folder, configuration_file),

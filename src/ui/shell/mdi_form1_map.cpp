@@ -22,14 +22,14 @@ constexpr int problem_time = 15000; // milliseconds that a reason stays in the s
 
 struct MapItem {
     std::string_view name;
-    map::Shown shown;
+    map::ShownMap shown;
     std::string map::Maps::*path;
 };
 
 constexpr std::array<MapItem, 3> map_items = {{
-    {"carte_1", map::Shown::map_1, &map::Maps::map_1_path},
-    {"carte_2", map::Shown::map_2, &map::Maps::map_2_path},
-    {"carte_id", map::Shown::id_map, &map::Maps::id_map_path},
+    {"carte_1", map::ShownMap::map_1, &map::Maps::map_1_path},
+    {"carte_2", map::ShownMap::map_2, &map::Maps::map_2_path},
+    {"carte_id", map::ShownMap::id_map, &map::Maps::id_map_path},
 }};
 
 } // namespace
@@ -68,12 +68,12 @@ void MDIForm1::make_map_window() {
     connect(map_, &map::Form1::problem, this,
             [this](const QString& reason) { statusBar()->showMessage(reason, problem_time); });
     action("carte_2")->setEnabled(map_->has_map_2());
-    check_map(map::Shown::map_1);
+    check_map(map::ShownMap::map_1);
     map_frame_->show();
     fit_map_window();
 }
 
-void MDIForm1::show_map(map::Shown shown) {
+void MDIForm1::show_map(map::ShownMap shown) {
     auto* map = map_window();
     if (!map)
         return;
@@ -81,7 +81,7 @@ void MDIForm1::show_map(map::Shown shown) {
     check_map(shown);
 }
 
-void MDIForm1::check_map(map::Shown shown) {
+void MDIForm1::check_map(map::ShownMap shown) {
     for (const auto& item : map_items) {
         action(item.name)->setChecked(item.shown == shown);
         if (item.shown == shown)

@@ -10,9 +10,9 @@ namespace {
 
 using gfx::SpriteKind;
 using map::Mode;
-using map::Shown;
+using map::ShownMap;
 
-template <Shown map>
+template <ShownMap map>
 void show_map(MDIForm1& frame) {
     frame.show_map(map);
 }
@@ -47,9 +47,9 @@ constexpr std::array items = {
              after_separator},
 
     MenuItem{"", "carte", "&Carte"},
-    MenuItem{"carte", "carte_1", "Carte &1", show_map<Shown::map_1>, "Ctrl+1", checkable},
-    MenuItem{"carte", "carte_2", "Carte &2", show_map<Shown::map_2>, "Ctrl+2", checkable},
-    MenuItem{"carte", "carte_id", "Carte &id", show_map<Shown::id_map>, "Ctrl+3", checkable},
+    MenuItem{"carte", "carte_1", "Carte &1", show_map<ShownMap::map_1>, "Ctrl+1", checkable},
+    MenuItem{"carte", "carte_2", "Carte &2", show_map<ShownMap::map_2>, "Ctrl+2", checkable},
+    MenuItem{"carte", "carte_id", "Carte &id", show_map<ShownMap::id_map>, "Ctrl+3", checkable},
 
     MenuItem{"", "mode", "&Mode"},
     MenuItem{"mode", "normal", "&Normal", enter_mode<Mode::normal>, "F2", checkable},

@@ -10,18 +10,19 @@ namespace {
 
 using data::FieldNumber;
 using data::table_column;
-using editor::field;
+using editor::fields;
+
+constexpr auto goods = data::field_number(data::column::goods);
+constexpr auto mine_flag = data::field_number(data::column::mine_flag);
+constexpr auto treaty_spain = data::field_number(data::column::treaty_spain);
+constexpr auto treaty_portugal = data::field_number(data::column::treaty_portugal);
 
 struct Provinces {
     data::ProvinceTable table;
     editor::Selection selection;
 
-    std::string merged(FieldNumber number) const {
-        return merged_values(table, selection).at(static_cast<std::size_t>(number.number - 1));
-    }
-    std::string shown(FieldNumber number) const {
-        return shown_values(table, selection).at(static_cast<std::size_t>(number.number - 1));
-    }
+    std::string merged(FieldNumber number) const { return merged_values(table, selection)[number]; }
+    std::string shown(FieldNumber number) const { return shown_values(table, selection)[number]; }
     std::string cell(int province, FieldNumber number) const {
         return table.cell(province, table_column(number));
     }
@@ -52,16 +53,16 @@ TEST(MergedValues, OfThreeProvinces) {
 TEST(CodedChoices, GoodsSetTheMineFlag) {
     Provinces provinces;
     provinces.selection.apply("5;6");
-    choose(provinces.table, provinces.selection, field(editor::goods), "Gold");
-    EXPECT_EQ(provinces.cell(5, editor::goods), "Gold");
-    EXPECT_EQ(provinces.cell(6, editor::mine_flag), "1");
-    choose(provinces.table, provinces.selection, field(editor::goods), "fish");
-    EXPECT_EQ(provinces.cell(6, editor::mine_flag), "0");
+    choose(provinces.table, provinces.selection, fields[goods], "Gold");
+    EXPECT_EQ(provinces.cell(5, goods), "Gold");
+    EXPECT_EQ(provinces.cell(6, mine_flag), "1");
+    choose(provinces.table, provinces.selection, fields[goods], "fish");
+    EXPECT_EQ(provinces.cell(6, mine_flag), "0");
 }
 
 TEST(CodedChoices, TreatyWritesAndShowsTwoFields) {
     Provinces provinces;
-    EXPECT_EQ(provinces.shown(editor::treaty_spain), "") << "nothing is selected";
+    EXPECT_EQ(provinces.shown(treaty_spain), "") << "nothing is selected";
     provinces.selection.apply("5");
     const struct {
         const char* code;
@@ -69,16 +70,16 @@ TEST(CodedChoices, TreatyWritesAndShowsTwoFields) {
         const char* portugal;
     } cases[] = {{"ESPAGNE", "1", "0"}, {"PORTUGAL", "0", "1"}, {"0", "0", "0"}, {"", "0", "0"}};
     for (const auto& each : cases) {
-        choose(provinces.table, provinces.selection, field(editor::treaty_spain), each.code);
-        EXPECT_EQ(provinces.cell(5, editor::treaty_spain), each.spain) << each.code;
-        EXPECT_EQ(provinces.cell(5, editor::treaty_portugal), each.portugal) << each.code;
+        choose(provinces.table, provinces.selection, fields[treaty_spain], each.code);
+        EXPECT_EQ(provinces.cell(5, treaty_spain), each.spain) << each.code;
+        EXPECT_EQ(provinces.cell(5, treaty_portugal), each.portugal) << each.code;
         if (*each.code != '\0') {
-            EXPECT_EQ(provinces.shown(editor::treaty_spain), each.code);
+            EXPECT_EQ(provinces.shown(treaty_spain), each.code);
         }
     }
-    for (const FieldNumber number : {editor::treaty_spain, editor::treaty_portugal})
+    for (const FieldNumber number : {treaty_spain, treaty_portugal})
         changement(provinces.table, provinces.selection, "1", number);
-    EXPECT_EQ(provinces.shown(editor::treaty_spain), "0") << "claimed by both";
+    EXPECT_EQ(provinces.shown(treaty_spain), "0") << "claimed by both";
 }
 
 TEST(NumericFields, EntryAndSlider) {

@@ -21,8 +21,8 @@ TEST(LanguageTexts, PrefixesInTheirOrder) {
     EXPECT_EQ(texts.list("COT_")[1].code + texts.list("COT_")[1].text, "5historical");
     EXPECT_EQ(texts.list("CULTURE_").size(), 1U);
     EXPECT_EQ(texts.status(7), "seven");
-    EXPECT_EQ(texts.message(1), "one");
-    EXPECT_EQ(texts.message(2), "");
+    EXPECT_EQ(texts.message(data::Message::efficiency_out_of_range), "one");
+    EXPECT_EQ(texts.message(data::Message::ferocity_out_of_range), "");
     EXPECT_EQ(texts.caption("A "), "blank");
     EXPECT_EQ(texts.caption("a"), std::nullopt);
     EXPECT_EQ(texts.exact_caption("A "), std::nullopt);

@@ -47,11 +47,13 @@ TEST_F(Panel, WhatLeavesAFieldAndWhatDoesNot) {
     auto& field = visible("nom_province");
     QTest::mouseClick(&field, Qt::LeftButton);
     QTest::keyClick(&field, Qt::Key_O, Qt::ControlModifier); // answered with No
-    EXPECT_EQ(boxes.take_one(), "message: " + session.language.message(15));
+    EXPECT_EQ(boxes.take_one(),
+              "message: " + session.language.message(data::Message::open_question));
     EXPECT_EQ(cells(1), "a|b");
     QTest::mouseClick(&visible("nom_province"), Qt::LeftButton);
     choose("langue", "langues(1)");
-    EXPECT_EQ(boxes.take_one(), "message: " + session.language.message(18));
+    EXPECT_EQ(boxes.take_one(),
+              "message: " + session.language.message(data::Message::language_notice));
     EXPECT_EQ(cells(1), "a|b");
     QTest::mouseClick(&field, Qt::RightButton);
     QContextMenuEvent menu(QContextMenuEvent::Mouse, {3, 3}, field.mapToGlobal(QPoint(3, 3)));
@@ -115,10 +117,12 @@ TEST_F(Panel, SelectionTexts) {
     type("selection_text", QStringLiteral("5--7"));
     EXPECT_EQ(shown("nom_province"), "") << "not applied yet";
     click("Command1");
-    EXPECT_EQ(boxes.take_one(), "message: " + session.language.message(7));
+    EXPECT_EQ(boxes.take_one(),
+              "message: " + session.language.message(data::Message::malformed_selection));
     type("selection_text", QStringLiteral("5x"));
     click("Command1");
-    EXPECT_EQ(boxes.take_one(), "message: " + session.language.message(7));
+    EXPECT_EQ(boxes.take_one(),
+              "message: " + session.language.message(data::Message::malformed_selection));
     EXPECT_EQ(shown("nom_province"), "five") << "applied as far as it reads";
 
     QString long_text;

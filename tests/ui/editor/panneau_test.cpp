@@ -236,7 +236,10 @@ TEST_F(Panel, NumbersAndTheirSliders) {
             ASSERT_EQ(seen.size(), *row.message == 0 ? 0U : 1U);
             if (!seen.empty()) {
                 EXPECT_EQ(seen[0].name, "message");
-                EXPECT_EQ(seen[0].text, session.language.message(row.message == "mess1"s ? 1 : 2));
+                EXPECT_EQ(seen[0].text,
+                          session.language.message(row.message == "mess1"s
+                                                       ? data::Message::efficiency_out_of_range
+                                                       : data::Message::ferocity_out_of_range));
                 EXPECT_EQ(shown(row.control), "");
             }
             EXPECT_EQ(cells(row.field), row.stored + "|"s + row.stored);

@@ -13,13 +13,13 @@ TEST_F(Form1, ShowsOneOfTheMaps) {
     EXPECT_EQ(form->sizeHint(), QSize(width, height));
     EXPECT_TRUE(form->has_map_2());
     struct Row {
-        map::Shown which;
+        map::ShownMap which;
         const char* name;
         QRgb colour;
     };
-    for (const Row row : {Row{map::Shown::map_2, "Picture2", 0xFF112233},
-                          Row{map::Shown::id_map, "Picture_id", 0xFF800000},
-                          Row{map::Shown::map_1, "Picture1", paper}}) {
+    for (const Row row : {Row{map::ShownMap::map_2, "Picture2", 0xFF112233},
+                          Row{map::ShownMap::id_map, "Picture_id", 0xFF800000},
+                          Row{map::ShownMap::map_1, "Picture1", paper}}) {
         form->show_map(row.which);
         for (const char* name : {"Picture1", "Picture2", "Picture_id"})
             EXPECT_EQ(surface(name)->isVisible(), std::string(name) == row.name) << name;
@@ -34,7 +34,7 @@ TEST_F(Form1, ShowsOneOfTheMaps) {
 TEST_F(Form1, WithoutMap2ItCannotBeChosen) {
     open();
     EXPECT_FALSE(form->has_map_2());
-    form->show_map(map::Shown::map_2);
+    form->show_map(map::ShownMap::map_2);
     EXPECT_TRUE(surface()->isVisible());
 }
 

@@ -79,7 +79,7 @@ TEST_F(Form1, DotsTheSelection) {
     surface()->render(&cut, {}, part, {});
     EXPECT_EQ(cut, image.copy(part));
 
-    form->show_map(map::Shown::id_map);
+    form->show_map(map::ShownMap::id_map);
     EXPECT_EQ(seen("Picture_id").pixel(20, 20), 0xFF000000);
     session.mode = Mode::ville;
     form->selection_or_mode_changed();
@@ -142,7 +142,7 @@ TEST_F(Form1, AnotherMapShowsTheSamePlace) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
     const QPoint corner_before = corner();
     ASSERT_NE(corner_before, QPoint(0, 0));
-    form->show_map(map::Shown::id_map);
+    form->show_map(map::ShownMap::id_map);
     EXPECT_EQ(-surface("Picture_id")->mapTo(form.get(), QPoint(0, 0)), corner_before);
     EXPECT_TRUE(surface("Picture_id")->hasFocus());
 }

@@ -143,7 +143,7 @@ TEST_F(OverlayPreviewTest, EveryModeShowsItsOwnKind) {
         const QString name = QString::number(x);
         save(sprite(4, 4, kind.colour), name);
         load_sprite(kind.kind, name, 0, 0, 1, 1);
-        session.graphics.previewed(kind.kind) = 1;
+        session.graphics.previewed_row[kind.kind] = 1;
         place(7, kind.x, std::to_string(x).c_str(), "10");
         x += 10;
     }

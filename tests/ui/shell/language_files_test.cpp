@@ -73,7 +73,8 @@ TEST(LanguageFiles, AreComplete) {
         }
         EXPECT_EQ(captions, looked_up_captions()) << name;
         for (const int message : {1, 2, 3, 4, 5, 7, 14, 15, 16, 17, 18})
-            EXPECT_FALSE(texts.message(message).empty()) << name << message;
+            EXPECT_FALSE(texts.message(static_cast<data::Message>(message)).empty())
+                << name << message;
         for (int status = 1; status <= 7; ++status)
             EXPECT_FALSE(texts.status(status).empty()) << name << status;
         for (std::size_t at = bytes.find('\n'); at < bytes.size(); at = bytes.find('\n', at + 1))

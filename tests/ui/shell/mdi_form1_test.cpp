@@ -100,7 +100,7 @@ TEST_F(MDIForm1, LanguageMenu) {
     const auto seen = boxes.take();
     ASSERT_EQ(seen.size(), 1U);
     EXPECT_EQ(seen[0].name, "message");
-    EXPECT_EQ(seen[0].text, session.language.message(18));
+    EXPECT_EQ(seen[0].text, session.language.message(data::Message::language_notice));
     EXPECT_TRUE(action("langues(4)").isChecked()) << "the mark does not move";
     EXPECT_FALSE(action("langues(8)").isChecked());
     EXPECT_EQ(caption("fichier"), "&File");
@@ -203,7 +203,7 @@ TEST_F(MDIForm1, OpeningAsksFirstAndNoIsTheDefault) {
     QTest::keyClick(frame.get(), Qt::Key_O, Qt::ControlModifier);
     const auto seen = boxes.take();
     ASSERT_EQ(seen.size(), 1U);
-    EXPECT_EQ(seen[0].text, session.language.message(15));
+    EXPECT_EQ(seen[0].text, session.language.message(data::Message::open_question));
     EXPECT_EQ(seen[0].preset, QMessageBox::No);
     EXPECT_EQ(session.configuration.province_file_path, path) << "no chooser was opened";
 }
@@ -232,7 +232,7 @@ TEST_F(MDIForm1, ClosingAsksOnlyWhenMapsAreOpen) {
     close();
     const auto seen = boxes.take();
     ASSERT_EQ(seen.size(), 1U);
-    EXPECT_EQ(seen[0].text, session.language.message(17));
+    EXPECT_EQ(seen[0].text, session.language.message(data::Message::save_question));
     EXPECT_EQ(seen[0].preset, QMessageBox::Yes);
     EXPECT_NE(file("last.csv").find("\r\n5;saved;"), std::string::npos);
     EXPECT_FALSE(has_file("recovered.csv")) << "all is saved";
