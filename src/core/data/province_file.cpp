@@ -45,19 +45,23 @@ std::string_view take_line(std::string_view& bytes) {
 }
 
 /// Fills one row from the line's fields behind its identifier.
-void read_fields(std::string_view fields, int province, int line_number, ProvinceTable& table) {
+void read_fields(std::string_view fields, int province, int line_number, ProvinceTable& table,
+                 Source source) {
     for (TableColumn column{0}; column.index < first_unread.index; ++column.index) {
         const auto end = fields.find(separator);
         if (end == std::string_view::npos)
             throw_too_few_fields(line_number, province, column);
-        table.load(province, column, fields.substr(0, end));
+        if (source == Source::file)
+            table.load(province, column, fields.substr(0, end));
+        else
+            table.write(province, column, fields.substr(0, end));
         fields.remove_prefix(end + 1);
     }
 }
 
 } // namespace
 
-ReadReport read_provinces(std::string_view bytes, ProvinceTable& table) {
+ReadReport read_provinces(std::string_view bytes, ProvinceTable& table, Source source) {
     ReadReport report;
     report.has_carriage_return = bytes.find('\r') != std::string_view::npos;
     while (!bytes.empty()) {
@@ -70,7 +74,7 @@ ReadReport read_provinces(std::string_view bytes, ProvinceTable& table) {
         const auto first = line.find(separator);
         if (first == std::string_view::npos)
             throw_too_few_fields(report.lines, province, TableColumn{0});
-        read_fields(line.substr(first + 1), province, report.lines, table);
+        read_fields(line.substr(first + 1), province, report.lines, table, source);
         ++report.provinces;
     }
     return report;

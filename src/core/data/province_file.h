@@ -14,10 +14,15 @@ struct ReadReport {
     bool has_carriage_return = false;
 };
 
+/// What the bytes are of: the file whose values the table now has, or a copy of an earlier table,
+/// whose values are changes that no file has yet.
+enum class Source { file, copy };
+
 /// Reads the province file's bytes into the table; rows that the file lacks stay as they were.
 /// Throws invalid procedure call for a province line with too few fields, with line, province and
 /// column in its place; what was read before it stays in the table.
-ReadReport read_provinces(std::string_view bytes, ProvinceTable& table);
+ReadReport read_provinces(std::string_view bytes, ProvinceTable& table,
+                          Source source = Source::file);
 
 /// Returns the whole table as a province file of 2021 lines.
 std::string write_provinces(const ProvinceTable& table);

@@ -1,5 +1,6 @@
 #include "base/files.h"
 
+#include "base/new_file.h"
 #include "base/qt_text.h"
 #include "base/stored_path.h"
 #include "data/run_time_error.h"
@@ -7,7 +8,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 
@@ -18,7 +18,7 @@ namespace {
 using data::ErrorNumber;
 using data::RunTimeError;
 
-[[noreturn]] void fail(ErrorNumber number, const QString& path, const QString& reason) {
+[[noreturn]] void throw_error(ErrorNumber number, const QString& path, const QString& reason) {
     throw RunTimeError(number, to_bytes(QDir::toNativeSeparators(path) + ": " + reason));
 }
 
@@ -26,21 +26,18 @@ using data::RunTimeError;
 void check_place(const QString& path) {
     const QFileInfo file(path);
     if (file.exists() && !file.isFile())
-        fail(ErrorNumber::path_file_access, path, QStringLiteral("a file was expected here"));
+        throw_error(ErrorNumber::path_file_access, path,
+                    QStringLiteral("a file was expected here"));
     if (!file.absoluteDir().exists())
-        fail(ErrorNumber::path_not_found, path, QStringLiteral("the folder does not exist"));
+        throw_error(ErrorNumber::path_not_found, path, QStringLiteral("the folder does not exist"));
 }
 
-ErrorNumber number_of(const QFileDevice& file) {
-    switch (file.error()) {
-    case QFileDevice::ResourceError:
-        return ErrorNumber::disk_full;
-    case QFileDevice::OpenError:
-    case QFileDevice::PermissionsError:
-        return ErrorNumber::permission_denied;
-    default:
-        return ErrorNumber::path_file_access;
-    }
+/// Returns where the last of a chain of links leads, be there a file or not.
+QString link_target(QString path) {
+    constexpr int most_links = 40; // as many as the system follows
+    for (int link = 0; link < most_links && QFileInfo(path).isSymLink(); ++link)
+        path = QFileInfo(path).symLinkTarget();
+    return path;
 }
 
 } // namespace
@@ -49,33 +46,50 @@ std::string read_file(std::string_view path, std::size_t at_most) {
     const QString native = native_path(path);
     check_place(native);
     if (!QFileInfo::exists(native))
-        fail(ErrorNumber::file_not_found, native, QStringLiteral("there is no such file"));
+        throw_error(ErrorNumber::file_not_found, native, QStringLiteral("there is no such file"));
     QFile file(native);
     if (!file.open(QIODevice::ReadOnly))
-        fail(number_of(file), native, file.errorString());
-    std::string bytes(std::min(static_cast<std::size_t>(file.size()), at_most), '\0');
-    const qint64 read = file.read(bytes.data(), static_cast<qint64>(bytes.size()));
-    if (read < 0)
-        fail(number_of(file), native, file.errorString());
-    bytes.resize(static_cast<std::size_t>(read));
+        throw_error(ErrorNumber::permission_denied, native, file.errorString());
+    const auto wanted = std::min(static_cast<std::size_t>(file.size()), at_most);
+    // An empty file is asked for a byte, too: an error of the disk looks like the end until then.
+    std::string bytes(std::max<std::size_t>(wanted, 1), '\0');
+    std::size_t count = 0;
+    for (qint64 got = 1; got > 0 && count < bytes.size();) {
+        got = file.read(bytes.data() + count, static_cast<qint64>(bytes.size() - count));
+        count += got > 0 ? static_cast<std::size_t>(got) : 0;
+    }
+    if (file.error() != QFileDevice::NoError || count < wanted)
+        throw_error(ErrorNumber::path_file_access, native,
+                    QStringLiteral("only %1 of its %2 bytes could be read (%3)")
+                        .arg(count)
+                        .arg(wanted)
+                        .arg(file.errorString()));
+    bytes.resize(wanted);
     return bytes;
 }
 
-void replace_file(std::string_view path, std::string_view bytes) {
-    const QString native = native_path(path);
+void replace_file(std::string_view path, std::string_view bytes, Written written) {
+    const QString native = link_target(native_path(path));
     check_place(native);
-    QSaveFile file(native);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        fail(number_of(file), native, file.errorString());
-    while (!bytes.empty()) {
-        // A disk that fills up takes a part without an error; the next part then fails.
-        const qint64 written = file.write(bytes.data(), static_cast<qint64>(bytes.size()));
-        if (written <= 0)
-            fail(number_of(file), native, file.errorString());
-        bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-    if (!file.commit())
-        fail(number_of(file), native, file.errorString());
+    NewFile file(native);
+    file.write(bytes);
+    file.take_owner_of(native);
+    if (written == Written::on_disk)
+        file.sync();
+    file.replace(native);
+    if (written == Written::on_disk)
+        NewFile::sync_folder_of(native);
+}
+
+bool create_file(std::string_view path, std::string_view bytes) {
+    const QString native = native_path(path);
+    const QFileInfo there(native);
+    if (there.exists() || there.isSymLink())
+        return false;
+    check_place(native);
+    NewFile file(native);
+    file.write(bytes);
+    return file.take_free_name(native);
 }
 
 std::string shown_path(std::string_view path) {

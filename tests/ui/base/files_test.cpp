@@ -18,6 +18,7 @@
 
 namespace {
 
+using base::create_file;
 using base::read_file;
 using base::replace_file;
 using data::ErrorNumber;
@@ -75,7 +76,45 @@ TEST_F(FilesTest, FolderInPlaceOfAFileIsAnError) {
     EXPECT_TRUE(QDir(folder.filePath("map.bmp/inner")).exists());
 }
 
+TEST_F(FilesTest, LongestNameIsReplaced) {
+    const std::string name(255, 'n');
+    replace_file(path(name), "old");
+    replace_file(path(name), "new", base::Written::by_system);
+    EXPECT_EQ(read_file(path(name)), "new");
+    EXPECT_EQ(names().size(), 1);
+}
+
+TEST_F(FilesTest, AFreeNameIsTakenOnce) {
+    EXPECT_TRUE(create_file(path("x.csv"), "first"));
+    EXPECT_FALSE(create_file(path("x.csv"), "second"));
+    EXPECT_EQ(read_file(path("x.csv")), "first");
+    EXPECT_EQ(names(), QStringList("x.csv"));
+}
+
 #ifdef Q_OS_UNIX
+
+TEST_F(FilesTest, LinksPermissionsAndMissingTargetsStay) {
+    replace_file(path("real.csv"), "old");
+    QFile::setPermissions(folder.filePath("real.csv"), QFile::ReadOwner | QFile::WriteOwner);
+    QFile::link("real.csv", folder.filePath("link.csv"));
+    QFile::link("link.csv", folder.filePath("chain.csv"));
+    QFile::link("gone.csv", folder.filePath("dangling.csv"));
+    replace_file(path("chain.csv"), "new");
+    replace_file(path("dangling.csv"), "made");
+    EXPECT_EQ(read_file(path("real.csv")) + read_file(path("gone.csv")), "newmade");
+    EXPECT_TRUE(QFileInfo(folder.filePath("chain.csv")).isSymLink());
+    EXPECT_EQ(QFile::permissions(folder.filePath("real.csv")) &
+                  (QFile::ReadGroup | QFile::ReadOther),
+              QFile::Permissions());
+    EXPECT_FALSE(create_file(path("dangling.csv"), "planted"));
+}
+
+#ifdef Q_OS_LINUX
+TEST_F(FilesTest, AnErrorOfTheDiskIsNoEndOfTheFile) {
+    // Reading the process's memory from its beginning is an input error on every machine.
+    expect_error(ErrorNumber::path_file_access, "mem", [] { read_file("/proc/self/mem"); });
+}
+#endif
 
 /// No file can grow beyond that many bytes while this lives.
 class FileSizeLimit {
