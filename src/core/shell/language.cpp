@@ -50,7 +50,12 @@ void number_texts(std::array<std::string, count>& texts, std::span<const Entry> 
 
 } // namespace
 
-LanguageTexts::LanguageTexts(std::string_view bytes) {
+LanguageTexts::LanguageTexts() {
+    for (const auto& row : texts)
+        own_texts_[row.text] = row.english;
+}
+
+LanguageTexts::LanguageTexts(std::string_view bytes) : LanguageTexts() {
     data::RecordReader reader(bytes);
     while (!reader.at_end()) {
         const std::string key = reader.next();
@@ -63,9 +68,19 @@ LanguageTexts::LanguageTexts(std::string_view bytes) {
         if (list != value_lists.end())
             store(lists_[static_cast<std::size_t>(list - value_lists.begin())], *list,
                   {key.substr(list->prefix.size()), std::move(text)}, line);
+        else if (data::starts_with_ignoring_case(key, text_prefix))
+            take_own_text(std::string_view(key).substr(text_prefix.size()), std::move(text));
     }
     number_texts(status_texts_, this->list("MESS_"), "bar(", ")");
     number_texts(message_texts_, this->list("MESSAGE_"), "mess", "");
+}
+
+void LanguageTexts::take_own_text(std::string_view key, std::string text) {
+    const auto* row = std::find_if(texts.begin(), texts.end(), [key](const TextInfo& candidate) {
+        return equal_ignoring_case(candidate.key, key);
+    });
+    if (row != texts.end())
+        own_texts_[row->text] = std::move(text);
 }
 
 std::span<const Entry> LanguageTexts::list(std::string_view prefix) const {

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "data/message.h"
+#include "shell/texts.h"
 
 #include <array>
+#include <initializer_list>
 #include <optional>
 #include <span>
 #include <string>
@@ -49,7 +51,8 @@ inline constexpr std::array<ListInfo, 19> value_lists = {{
 /// Every text that the user sees, as one language file gives it.
 class LanguageTexts {
   public:
-    LanguageTexts() = default;
+    /// The texts without a language file: no captions and lists, and the program's English texts.
+    LanguageTexts();
 
     /// Reads a language file. Throws subscript out of range for a record beyond its list's
     /// capacity, and what the record reader throws; each with the line in its place.
@@ -70,10 +73,21 @@ class LanguageTexts {
     /// Returns status text 1 to 7; empty when the file lacks it.
     const std::string& status(int number) const;
 
+    /// Returns the file's text, or the program's English one where the file lacks it.
+    const std::string& text(Text text) const { return own_texts_[text]; }
+
+    /// Returns the text with %1, %2 and so on replaced by the values.
+    std::string text(Text text, std::initializer_list<std::string_view> values) const {
+        return filled(own_texts_[text], values);
+    }
+
   private:
+    void take_own_text(std::string_view key, std::string text);
+
     std::array<std::vector<Entry>, value_lists.size()> lists_;
     std::array<std::string, 18> message_texts_;
     std::array<std::string, 7> status_texts_;
+    data::IndexedArray<Text, std::string, text_count> own_texts_;
 };
 
 /// Returns the code whose text is the given one, letter case aside; of several the first, and empty

@@ -1,4 +1,5 @@
 #include "data/run_time_error.h"
+#include "shell/error_text.h"
 #include "shell/language.h"
 
 #include <gtest/gtest.h>
@@ -26,6 +27,25 @@ TEST(LanguageTexts, PrefixesInTheirOrder) {
     EXPECT_EQ(texts.caption("A "), "blank");
     EXPECT_EQ(texts.caption("a"), std::nullopt);
     EXPECT_EQ(texts.exact_caption("A "), std::nullopt);
+}
+
+TEST(LanguageTexts, FurtherTextsAreEnglishWhereTheFileLacksThem) {
+    using shell::Text;
+    const LanguageTexts texts(
+        "\"texte_ETAT_selected\",\"%2 et %1 %\"\r\n\"TEXTE_x\",\"unknown\"\r\n"
+        "\"TEXTE_error_disk_full\",\"Plein\"\r\n\"TERRAIN_0\",\"Plains\"\r\n");
+    EXPECT_EQ(texts.list("TERRAIN_").size(), 1U);
+    EXPECT_EQ(texts.text(Text::etat_selected), "%2 et %1 %");
+    EXPECT_EQ(texts.text(Text::etat_selected, {"%2", "b"}), "b et %2 %");
+    EXPECT_EQ(texts.text(Text::notice_write, {"Name"}), "Name: %2 provinces");
+    EXPECT_EQ(LanguageTexts().text(Text::locale), "en");
+
+    for (int number = 0; number <= 76; ++number) {
+        const data::RunTimeError error(static_cast<data::ErrorNumber>(number), "here");
+        EXPECT_EQ(text_of(error, LanguageTexts()), error.what()) << "the words are the same";
+    }
+    const data::RunTimeError full(data::ErrorNumber::disk_full, "");
+    EXPECT_EQ(text_of(full, texts), "Run-time error 61: Plein");
 }
 
 TEST(LanguageTexts, AListHoldsItsCapacityAndNoMore) {

@@ -77,8 +77,30 @@ TEST(LanguageFiles, AreComplete) {
                 << name << message;
         for (int status = 1; status <= 7; ++status)
             EXPECT_FALSE(texts.status(status).empty()) << name << status;
+        std::multiset<std::string> keys;
+        for (const auto& key : keys_of(bytes)) {
+            if (key.starts_with(shell::text_prefix))
+                keys.insert(key);
+        }
+        std::multiset<std::string> expected_keys;
+        for (const auto& row : shell::texts)
+            expected_keys.insert(std::string(shell::text_prefix).append(row.key));
+        EXPECT_EQ(keys, expected_keys) << name;
         for (std::size_t at = bytes.find('\n'); at < bytes.size(); at = bytes.find('\n', at + 1))
             ASSERT_EQ(bytes[at - 1], '\r') << name;
+    }
+}
+
+TEST(LanguageFiles, FurtherTextsAreTheProgramsOwnAndKeepTheirPlaceholders) {
+    const shell::LanguageTexts english(bytes_of("english.lng"));
+    const shell::LanguageTexts french(bytes_of("french.lng"));
+    EXPECT_EQ(french.text(shell::Text::locale), "fr");
+    for (const auto& row : shell::texts) {
+        EXPECT_EQ(english.text(row.text), row.english);
+        for (const char* mark : {"%1", "%2"})
+            EXPECT_EQ(french.text(row.text).find(mark) == std::string::npos,
+                      row.english.find(mark) == std::string_view::npos)
+                << row.key;
     }
 }
 

@@ -1,0 +1,187 @@
+#include "shell/texts.h"
+
+namespace shell {
+
+constexpr data::IndexedArray<Text, TextInfo, text_count> texts = {{{
+    // Qt's own texts
+    {Text::locale, "locale", "en"},
+
+    // Run-time errors
+    {Text::error_heading, "error_heading", "Run-time error %1: %2"},
+    {Text::error_invalid_procedure_call, "error_invalid_procedure_call",
+     "Invalid procedure call or argument"},
+    {Text::error_overflow, "error_overflow", "Overflow"},
+    {Text::error_subscript_out_of_range, "error_subscript_out_of_range", "Subscript out of range"},
+    {Text::error_file_not_found, "error_file_not_found", "File not found"},
+    {Text::error_disk_full, "error_disk_full", "Disk full"},
+    {Text::error_input_past_end, "error_input_past_end", "Input past end of file"},
+    {Text::error_permission_denied, "error_permission_denied", "Permission denied"},
+    {Text::error_path_file_access, "error_path_file_access", "Path/File access error"},
+    {Text::error_path_not_found, "error_path_not_found", "Path not found"},
+    {Text::error_unknown, "error_unknown", "Unknown error"},
+    {Text::error_program_ends, "error_program_ends", "The program ends now."},
+    {Text::error_nothing_unsaved, "error_nothing_unsaved", "There were no unsaved changes."},
+    {Text::recovery_copy_written, "recovery_copy_written", "The unsaved changes are in %1"},
+    {Text::recovery_copy_failed, "recovery_copy_failed",
+     "The unsaved changes could not be written: %1"},
+
+    // Menus
+    {Text::menu_recuperer, "menu_recuperer", "&Recovery copies and backups..."},
+    {Text::menu_reenregistrer, "menu_reenregistrer", "Save &again"},
+    {Text::menu_recherche, "menu_recherche", "Searc&h"},
+    {Text::menu_verifier, "menu_verifier", "&Check..."},
+    {Text::menu_modifications, "menu_modifications", "C&hanges..."},
+
+    // Status bar
+    {Text::etat_none_selected, "etat_none_selected", "No province selected"},
+    {Text::etat_one_selected, "etat_one_selected", "1 province selected"},
+    {Text::etat_selected, "etat_selected", "%1 provinces selected"},
+    {Text::etat_unsaved, "etat_unsaved", "unsaved changes"},
+    {Text::etat_lacking, "etat_lacking", "lacking: %1"},
+    {Text::notice_write_one, "notice_write_one", "%1: 1 province"},
+    {Text::notice_write, "notice_write", "%1: %2 provinces"},
+    {Text::notice_semicolon, "notice_semicolon",
+     "%1: a semicolon moves the rest of the line by one column in the saved file and in a recovery "
+     "copy"},
+    {Text::notice_outside_code_page, "notice_outside_code_page",
+     "%1: characters that the game's code page lacks were stored as ?"},
+    {Text::notice_saved, "notice_saved", "Saved: %1"},
+    {Text::notice_changed_outside, "notice_changed_outside",
+     "Another program has changed the file since it was read or saved here: %1"},
+    {Text::notice_no_province_read, "notice_no_province_read",
+     "No province was found in %1. It begins with: %2"},
+    {Text::notice_provinces_lost, "notice_provinces_lost",
+     "Reading lost provinces: %1 has line feeds alone at line ends, first on the lines %2"},
+    {Text::notice_backup_failed, "notice_backup_failed",
+     "The file was saved, but no backup of the old one was made: %1"},
+    {Text::notice_one_new_copy, "notice_one_new_copy", "An earlier run left a recovery copy: %1"},
+    {Text::notice_new_copies, "notice_new_copies",
+     "Earlier runs left %1 recovery copies, the newest is %2"},
+    {Text::notice_unreadable, "notice_unreadable", "%1 cannot be read: %2"},
+    {Text::question_save_over_change, "question_save_over_change",
+     "Another program has changed %1 since it was read or saved here. Save over it?"},
+
+    // A mixed selection, ranges and hints of controls
+    {Text::differing_placeholder, "differing_placeholder", "different values"},
+    {Text::differing_tip, "differing_tip", "%1 different values, most often: %2"},
+    {Text::differing_value, "differing_value", "%1 (%2 provinces)"},
+    {Text::differing_value_one, "differing_value_one", "%1 (1 province)"},
+    {Text::empty_value, "empty_value", "(empty)"},
+    {Text::selection_not_applied_tip, "selection_not_applied_tip",
+     "This selection is not applied yet: Enter applies it"},
+    {Text::range_tip, "range_tip", "%1 to %2"},
+    {Text::variant_tip, "variant_tip", "A click copies this variant to all selected provinces"},
+
+    // Columns and buttons of the dialogs
+    {Text::column_province, "column_province", "Province"},
+    {Text::column_name, "column_name", "Name"},
+    {Text::column_column, "column_column", "Column"},
+    {Text::column_value, "column_value", "Value"},
+    {Text::column_before, "column_before", "Before"},
+    {Text::column_now, "column_now", "Now"},
+    {Text::column_problem, "column_problem", "What is wrong"},
+    {Text::column_time, "column_time", "Time"},
+    {Text::column_kind, "column_kind", "Kind"},
+    {Text::column_file, "column_file", "File"},
+    {Text::column_differing, "column_differing", "Differing provinces"},
+    {Text::button_open, "button_open", "&Open"},
+    {Text::button_delete, "button_delete", "&Delete"},
+    {Text::button_put_back, "button_put_back", "&Put back"},
+    {Text::button_refresh, "button_refresh", "&Refresh"},
+    {Text::button_close, "button_close", "Close"},
+
+    // Recovery copies and backups
+    {Text::copies_caption, "copies_caption", "Recovery copies and backups"},
+    {Text::copies_recovery_copy, "copies_recovery_copy", "Recovery copy"},
+    {Text::copies_backup, "copies_backup", "Backup"},
+    {Text::copies_none, "copies_none", "There are no recovery copies and no backups."},
+    {Text::copies_delete_question, "copies_delete_question", "Delete %1 for good?"},
+    {Text::copies_unreadable, "copies_unreadable", "cannot be read"},
+
+    // Changes
+    {Text::modifications_caption, "modifications_caption",
+     "Changes since the file was read or saved"},
+    {Text::modifications_none, "modifications_none", "There are no unsaved changes."},
+    {Text::modifications_count, "modifications_count", "%1 changes"},
+
+    // The check
+    {Text::controle_caption, "controle_caption", "Check of the provinces"},
+    {Text::controle_none, "controle_none", "No problem was found."},
+    {Text::controle_count, "controle_count", "Problems: %1, hints: %2"},
+    {Text::controle_hint, "controle_hint", "hint"},
+    {Text::problem_lone_line_feeds, "problem_lone_line_feeds",
+     "line feeds alone (%1) end no line: the rows behind them are not read"},
+    {Text::problem_nul_bytes, "problem_nul_bytes", "NUL bytes: %1"},
+    {Text::problem_unreadable_line, "problem_unreadable_line",
+     "the line has %1 fields, reading needs at least %2 and cannot take it"},
+    {Text::problem_field_count, "problem_field_count", "the line has %1 fields instead of %2"},
+    {Text::problem_further_fields, "problem_further_fields",
+     "the line has %1 fields instead of %2, saving will not keep the further ones"},
+    {Text::problem_identifier_not_whole, "problem_identifier_not_whole",
+     "the identifier '%1' is no whole number, it is read as %2"},
+    {Text::problem_identifier_unknown, "problem_identifier_unknown",
+     "the identifier '%1' is not between 1 and %2: the line is not read and saving will not keep "
+     "it"},
+    {Text::problem_identifier_twice, "problem_identifier_twice",
+     "province %1 is already on line %2, this line replaces it"},
+    {Text::problem_province_missing, "problem_province_missing",
+     "the file has no line for this province"},
+    {Text::problem_header, "problem_header", "the header is '%1' instead of '%2'"},
+    {Text::problem_fixed_row, "problem_fixed_row", "the game's own row has '%2' here, not '%1'"},
+    {Text::problem_fixed_row_missing, "problem_fixed_row_missing",
+     "the game's own row '%1' is missing"},
+    {Text::problem_text_not_kept, "problem_text_not_kept",
+     "saving will not keep '%1' (lines with text in this column: %2)"},
+    {Text::problem_breaks_line, "problem_breaks_line",
+     "'%1' holds a semicolon or a line end, which breaks the saved line"},
+    {Text::problem_unknown_code, "problem_unknown_code", "'%1' is no code of the language file"},
+    {Text::problem_no_flag, "problem_no_flag", "'%1' is neither 0 nor 1"},
+    {Text::problem_no_number, "problem_no_number", "'%1' is no number"},
+    {Text::problem_out_of_range, "problem_out_of_range", "%1 is not between 0 and %2"},
+    {Text::problem_mine_flag, "problem_mine_flag", "the mine flag is %1, but the goods are '%2'"},
+    {Text::problem_coast, "problem_coast",
+     "'%1' is neither coastal nor inland and counts as inland"},
+    {Text::problem_outside_map, "problem_outside_map", "the position (%1) lies outside the map"},
+    {Text::problem_other_province, "problem_other_province",
+     "the position (%1) lies in province %2"},
+    {Text::problem_port_sea, "problem_port_sea", "the port's sea '%1' is no sea province"},
+    {Text::problem_port_far, "problem_port_far",
+     "the port (%1) lies more than 50 pixels from its sea, province %2"},
+    {Text::problem_not_on_map, "problem_not_on_map", "the ID map has no pixel of this province"},
+    {Text::problem_not_in_file, "problem_not_in_file",
+     "the ID map has %1 pixels of this province, which has no values"},
+    {Text::problem_colour, "problem_colour",
+     "the ID map has %2 pixels of the identifier %1, which no province has"},
+}}};
+
+namespace {
+
+constexpr bool is_in_order() {
+    std::size_t position = 0;
+    for (const auto& row : texts) {
+        if (data::position_of(row.text) != position++ || row.key.empty())
+            return false;
+    }
+    return true;
+}
+static_assert(is_in_order(), "the rows stand in the order of the enumeration");
+
+} // namespace
+
+std::string filled(std::string_view pattern, std::initializer_list<std::string_view> values) {
+    std::string text;
+    for (std::size_t at = 0; at < pattern.size(); ++at) {
+        const bool marked = pattern[at] == '%' && at + 1 < pattern.size();
+        const auto number =
+            marked ? static_cast<std::size_t>(pattern[at + 1] - '1') : values.size();
+        if (number < values.size()) {
+            text += values.begin()[number];
+            ++at;
+        } else {
+            text += pattern[at];
+        }
+    }
+    return text;
+}
+
+} // namespace shell

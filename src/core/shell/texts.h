@@ -1,0 +1,157 @@
+#pragma once
+
+#include "data/indexed_array.h"
+
+#include <cstddef>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace shell {
+
+/// Every text of a window that is no caption, message or status text of the language file's lists.
+/// A text is added here, in the table of texts.cpp, and in every file of languages/.
+enum class Text {
+    // Qt's own texts
+    locale,
+
+    // Run-time errors
+    error_heading,
+    error_invalid_procedure_call,
+    error_overflow,
+    error_subscript_out_of_range,
+    error_file_not_found,
+    error_disk_full,
+    error_input_past_end,
+    error_permission_denied,
+    error_path_file_access,
+    error_path_not_found,
+    error_unknown,
+    error_program_ends,
+    error_nothing_unsaved,
+    recovery_copy_written,
+    recovery_copy_failed,
+
+    // Menus
+    menu_recuperer,
+    menu_reenregistrer,
+    menu_recherche,
+    menu_verifier,
+    menu_modifications,
+
+    // Status bar
+    etat_none_selected,
+    etat_one_selected,
+    etat_selected,
+    etat_unsaved,
+    etat_lacking,
+    notice_write_one,
+    notice_write,
+    notice_semicolon,
+    notice_outside_code_page,
+    notice_saved,
+    notice_changed_outside,
+    notice_no_province_read,
+    notice_provinces_lost,
+    notice_backup_failed,
+    notice_one_new_copy,
+    notice_new_copies,
+    notice_unreadable,
+    question_save_over_change,
+
+    // A mixed selection, ranges and hints of controls
+    differing_placeholder,
+    differing_tip,
+    differing_value,
+    differing_value_one,
+    empty_value,
+    selection_not_applied_tip,
+    range_tip,
+    variant_tip,
+
+    // Columns and buttons of the dialogs
+    column_province,
+    column_name,
+    column_column,
+    column_value,
+    column_before,
+    column_now,
+    column_problem,
+    column_time,
+    column_kind,
+    column_file,
+    column_differing,
+    button_open,
+    button_delete,
+    button_put_back,
+    button_refresh,
+    button_close,
+
+    // Recovery copies and backups
+    copies_caption,
+    copies_recovery_copy,
+    copies_backup,
+    copies_none,
+    copies_delete_question,
+    copies_unreadable,
+
+    // Changes
+    modifications_caption,
+    modifications_none,
+    modifications_count,
+
+    // The check
+    controle_caption,
+    controle_none,
+    controle_count,
+    controle_hint,
+    problem_lone_line_feeds,
+    problem_nul_bytes,
+    problem_unreadable_line,
+    problem_field_count,
+    problem_further_fields,
+    problem_identifier_not_whole,
+    problem_identifier_unknown,
+    problem_identifier_twice,
+    problem_province_missing,
+    problem_header,
+    problem_fixed_row,
+    problem_fixed_row_missing,
+    problem_text_not_kept,
+    problem_breaks_line,
+    problem_unknown_code,
+    problem_no_flag,
+    problem_no_number,
+    problem_out_of_range,
+    problem_mine_flag,
+    problem_coast,
+    problem_outside_map,
+    problem_other_province,
+    problem_port_sea,
+    problem_port_far,
+    problem_not_on_map,
+    problem_not_in_file,
+    problem_colour,
+
+    last = problem_colour,
+};
+
+/// A text's record in the language file is "TEXTE_key","text".
+inline constexpr std::string_view text_prefix = "TEXTE_";
+
+struct TextInfo {
+    Text text;
+    std::string_view key;     // behind the prefix
+    std::string_view english; // for a language file that lacks the record
+};
+
+inline constexpr std::size_t text_count = static_cast<std::size_t>(Text::last) + 1;
+
+/// The texts by their enumerator.
+extern const data::IndexedArray<Text, TextInfo, text_count> texts;
+
+/// Returns the pattern with %1 to %9 replaced by the first value, the second, and so on; one that
+/// has no value stays.
+std::string filled(std::string_view pattern, std::initializer_list<std::string_view> values);
+
+} // namespace shell
