@@ -1,9 +1,8 @@
-#include "support/bitmaps.h"
+#include "support/folder.h"
 
 #include <QFile>
 #include <QImage>
 #include <QProcess>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 #include <string>
@@ -46,7 +45,7 @@ class Program : public testing::Test {
         return line + line_end;
     }
 
-    bitmaps::Folder folder;
+    support::Folder folder;
     QProcess process;
     std::string output;
     std::string errors;

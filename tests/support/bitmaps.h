@@ -1,17 +1,12 @@
 #pragma once
 
-#include "base/stored_path.h"
 #include "map/identification.h"
 
-#include <QFile>
-#include <QTemporaryDir>
-
 #include <cstdint>
+#include <cstdlib>
 #include <functional>
-#include <gtest/gtest.h>
 #include <random>
 #include <string>
-#include <string_view>
 
 /// Small bitmap files for the tests of the map.
 namespace bitmaps {
@@ -86,22 +81,5 @@ inline map::Colour colour_of(int identifier) {
     }
     return colour;
 }
-
-/// A folder of files that lives as long as the test.
-class Folder {
-  public:
-    /// Returns the stored path of the file that now has the bytes.
-    std::string write(const QString& name, std::string_view bytes) const {
-        QFile file(native(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes.data(), static_cast<qint64>(bytes.size()));
-        return path(name);
-    }
-    std::string path(const QString& name) const { return base::stored_path(native(name)); }
-    QString native(const QString& name) const { return folder_.filePath(name); }
-
-  private:
-    QTemporaryDir folder_;
-};
 
 } // namespace bitmaps

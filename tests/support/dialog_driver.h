@@ -1,10 +1,9 @@
 #pragma once
 
-#include "base/qt_text.h"
+#include "support/message_boxes.h"
 
 #include <QApplication>
 #include <QDialog>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -12,6 +11,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 
 /// What a user does to a modal dialog and its message boxes.
 namespace driver {
@@ -42,19 +42,45 @@ inline bool run(QDialog& dialog, const std::function<void()>& act) {
     return closed;
 }
 
+/// Acts in the dialog of that name that opens while this lives. The acts close it.
+class InDialog {
+  public:
+    InDialog(std::string name, std::function<void(QDialog&)> act)
+        : name_(std::move(name)), act_(std::move(act)) {
+        QObject::connect(&timer_, &QTimer::timeout, [this] { look(); });
+        timer_.start(1);
+    }
+    ~InDialog() { EXPECT_FALSE(timer_.isActive()) << name_ << " did not open"; }
+    InDialog(const InDialog&) = delete;
+    InDialog& operator=(const InDialog&) = delete;
+
+  private:
+    void look() {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr || dialog->objectName().toStdString() != name_)
+            return;
+        timer_.stop();
+        act_(*dialog);
+        EXPECT_FALSE(dialog->isVisible()) << name_ << " is still open";
+        dialog->close();
+    }
+
+    std::string name_;
+    std::function<void(QDialog&)> act_;
+    QTimer timer_;
+};
+
 /// Returns the text of the message box that the act opened, "none" without one. Its OK is pressed.
 inline std::string message_during(const std::function<void()>& act) {
-    std::string text = "none";
-    QTimer::singleShot(0, [&text] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (box == nullptr || box->objectName() != QStringLiteral("message"))
-            return;
-        text = base::to_bytes(box->text());
-        QTest::keyClick(box, Qt::Key_Return);
-    });
+    support::MessageBoxes boxes;
     act();
     QCoreApplication::processEvents();
-    return text;
+    const auto seen = boxes.take();
+    if (seen.empty())
+        return "none";
+    EXPECT_EQ(seen.size(), 1U);
+    EXPECT_EQ(seen[0].name, "message");
+    return seen[0].text;
 }
 
 } // namespace driver

@@ -3,8 +3,8 @@
 #include "base/captions.h"
 #include "base/files.h"
 #include "shell/mdi_form1.h"
-#include "support/bitmaps.h"
 #include "support/dialog_driver.h"
+#include "support/folder.h"
 #include "support/message_boxes.h"
 #include "support/test_application.h"
 
@@ -19,7 +19,9 @@
 
 #include <gtest/gtest.h>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 
 namespace support {
 
@@ -28,18 +30,11 @@ class MainFrame : public testing::Test {
   protected:
     MainFrame() {
         session = shell::Session();
-        session.program_folder = folder.path(QString());
+        session.program_folder = folder.path();
         application.ends.clear();
         application.treats_errors = true;
         for (const auto* name : {"english.lng", "french.lng"})
             folder.write(QLatin1String(name), language_file(name));
-        QObject::connect(&chooser_timer_, &QTimer::timeout, [this] {
-            auto* chooser = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (chooser == nullptr || chooser->objectName() != QStringLiteral("Form4"))
-                return;
-            chooser_timer_.stop();
-            chooser_act_(*chooser);
-        });
     }
     ~MainFrame() override {
         frame.reset();
@@ -127,13 +122,13 @@ class MainFrame : public testing::Test {
         QCoreApplication::processEvents();
     }
 
-    /// Does what the user does in the location chooser that the next command opens.
-    void in_chooser(std::function<void(QDialog& chooser)> act) {
-        chooser_act_ = std::move(act);
-        chooser_timer_.start(1);
+    /// Acts in the dialog of that name that a command opens from now on; it must, and the acts
+    /// must close it.
+    void in_dialog(const char* name, std::function<void(QDialog&)> act) {
+        in_dialog_.emplace(name, std::move(act));
     }
     void save_as(const QString& name) {
-        in_chooser([name](QDialog& chooser) {
+        in_dialog("Form4", [name](QDialog& chooser) {
             QTest::keyClicks(&driver::control<QLineEdit>(chooser, "Text1"), name);
             driver::press(chooser, "Command1");
         });
@@ -146,18 +141,16 @@ class MainFrame : public testing::Test {
     void load(int province, int field, const std::string& text) const {
         session.provinces.load(province, data::table_column(data::FieldNumber{field}), text);
     }
-    std::string file(const QString& name) const { return base::read_file(folder.path(name)); }
-    bool has_file(const QString& name) const { return QFile::exists(folder.native(name)); }
+    std::string file(const QString& name) const { return folder.read(name); }
 
-    bitmaps::Folder folder;
+    Folder folder;
     TestApplication& application = TestApplication::instance();
     shell::Session& session = application.session;
     MessageBoxes boxes;
     std::unique_ptr<shell::MDIForm1> frame;
 
   private:
-    QTimer chooser_timer_;
-    std::function<void(QDialog& chooser)> chooser_act_;
+    std::optional<driver::InDialog> in_dialog_;
 };
 
 } // namespace support

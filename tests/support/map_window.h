@@ -3,22 +3,21 @@
 #include "data/run_time_error.h"
 #include "map/form1.h"
 #include "support/bitmaps.h"
+#include "support/folder.h"
 #include "support/leaks.h"
+#include "support/message_boxes.h"
 
 #include <QApplication>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPaintEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace map_window {
 
@@ -43,25 +42,6 @@ inline std::string id_map(int foreign_x = -1, int foreign_y = -1) {
 inline std::string plain_map(QRgb colour = paper, int map_width = width) {
     return bitmaps::painted(map_width, height, [=](int, int) { return colour & 0xFFFFFF; });
 }
-
-/// Answers the message box that appears while it lives, and remembers its text.
-class BoxReader {
-  public:
-    BoxReader() {
-        QObject::connect(&timer_, &QTimer::timeout, [this] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (box == nullptr)
-                return;
-            texts.push_back(box->text().toStdString());
-            QTest::keyClick(box, Qt::Key_Return);
-        });
-        timer_.start(5);
-    }
-    std::vector<std::string> texts;
-
-  private:
-    QTimer timer_;
-};
 
 /// A map window on small maps of its own.
 class Form1 : public testing::Test {
@@ -99,7 +79,7 @@ class Form1 : public testing::Test {
     }
     QPoint corner() const { return -surface()->mapTo(form.get(), QPoint(0, 0)); }
 
-    bitmaps::Folder folder;
+    support::Folder folder;
     shell::Session session;
     std::unique_ptr<map::Form1> form;
     std::string clicked;

@@ -7,10 +7,10 @@
 #include "sample.h"
 #include "shell/configuration.h"
 #include "shell/language.h"
+#include "support/folder.h"
 #include "text_files.h"
 
 #include <QImage>
-#include <QTemporaryDir>
 
 #include <cstdlib>
 #include <gtest/gtest.h>
@@ -29,21 +29,21 @@ const std::string& cell(const data::ProvinceTable& table, int province, int file
 class SampleWorld : public testing::Test {
   protected:
     static void SetUpTestSuite() {
-        folder_ = std::make_unique<QTemporaryDir>();
+        folder_ = std::make_unique<support::Folder>();
         sample::make_sample({folder(), language_file(), {600, 300}});
         report_ = data::read_provinces(sample::read_file(folder() / "Province.csv"), provinces_);
         id_map_ = QImage(QString::fromStdString((folder() / "idmap.bmp").string()));
     }
     static void TearDownTestSuite() { folder_.reset(); }
 
-    static fs::path folder() { return folder_->path().toStdString(); }
+    static fs::path folder() { return folder_->native().toStdString(); }
     static fs::path language_file() { return fs::path(LANGUAGES_FOLDER) / "english.lng"; }
     static int province_at(int x, int y) { return map::province_of(id_map_.pixel(x, y)); }
     static bool is_land(int province) {
         return cell(provinces_, province, 14) != "5" && cell(provinces_, province, 14) != "6";
     }
 
-    static inline std::unique_ptr<QTemporaryDir> folder_;
+    static inline std::unique_ptr<support::Folder> folder_;
     static inline data::ProvinceTable provinces_;
     static inline data::ReadReport report_;
     static inline QImage id_map_;
@@ -186,8 +186,8 @@ TEST_F(SampleWorld, ConfigurationLoadsSpritesAndTerrainArt) {
 }
 
 TEST_F(SampleWorld, IsTheSameAgainAndKeepsTheSettings) {
-    const QTemporaryDir again;
-    const fs::path other = again.path().toStdString();
+    const support::Folder again;
+    const fs::path other = again.native().toStdString();
     sample::write_file(other / "config.txt", "mine");
     sample::make_sample({other, language_file(), {600, 300}});
     EXPECT_EQ(sample::read_file(other / "config.txt"), "mine");
@@ -205,8 +205,8 @@ TEST_F(SampleWorld, IsTheSameAgainAndKeepsTheSettings) {
 
 /// On a map that is larger than the grid of the world, borders are bent: positions must follow.
 TEST(LargeSample, PositionsFollowTheBentBorders) {
-    const QTemporaryDir folder;
-    const fs::path path = folder.path().toStdString();
+    const support::Folder folder;
+    const fs::path path = folder.native().toStdString();
     sample::make_sample({path, fs::path(LANGUAGES_FOLDER) / "english.lng", {3800, 1500}});
     data::ProvinceTable provinces;
     data::read_provinces(sample::read_file(path / "Province.csv"), provinces);
@@ -224,10 +224,10 @@ TEST(LargeSample, PositionsFollowTheBentBorders) {
 }
 
 TEST(SmallSample, TooSmallAMapIsRefused) {
-    const QTemporaryDir folder;
+    const support::Folder folder;
     EXPECT_THROW(
         sample::make_sample(
-            {folder.path().toStdString(), fs::path(LANGUAGES_FOLDER) / "english.lng", {60, 30}}),
+            {folder.native().toStdString(), fs::path(LANGUAGES_FOLDER) / "english.lng", {60, 30}}),
         std::invalid_argument);
 }
 

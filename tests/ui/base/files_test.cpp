@@ -1,9 +1,8 @@
 #include "base/files.h"
-#include "base/stored_path.h"
 #include "data/run_time_error.h"
+#include "support/folder.h"
 
 #include <QDir>
-#include <QTemporaryDir>
 
 #include <csignal>
 #include <functional>
@@ -25,14 +24,7 @@ using data::ErrorNumber;
 
 class FilesTest : public testing::Test {
   protected:
-    std::string path(const std::string& name) const {
-        return base::stored_path(folder.path()) + "\\" + name;
-    }
-
-    QStringList names() const {
-        return QDir(folder.path())
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-    }
+    std::string path(const std::string& name) const { return folder.path() + "\\" + name; }
 
     /// Checks that the act fails with that number and names the file.
     static void expect_error(ErrorNumber number, const std::string& name,
@@ -46,7 +38,7 @@ class FilesTest : public testing::Test {
         }
     }
 
-    QTemporaryDir folder;
+    support::Folder folder;
 };
 
 TEST_F(FilesTest, BytesComeBack) {
@@ -57,7 +49,7 @@ TEST_F(FilesTest, BytesComeBack) {
     EXPECT_EQ(read_file(path("x.csv")), bytes);
     replace_file(path("X.CSV"), ""); // letter case aside the same file
     EXPECT_EQ(read_file(path("x.csv")), "");
-    EXPECT_EQ(names(), QStringList("x.csv"));
+    EXPECT_EQ(folder.names(), QStringList("x.csv"));
 }
 
 TEST_F(FilesTest, MissingFileAndFolderAreErrors) {
@@ -65,15 +57,15 @@ TEST_F(FilesTest, MissingFileAndFolderAreErrors) {
     expect_error(ErrorNumber::path_not_found, "x.csv", [&] { read_file(path("no\\x.csv")); });
     expect_error(ErrorNumber::path_not_found, "x.csv",
                  [&] { replace_file(path("no\\x.csv"), ""); });
-    EXPECT_EQ(names(), QStringList());
+    EXPECT_EQ(folder.names(), QStringList());
 }
 
 TEST_F(FilesTest, FolderInPlaceOfAFileIsAnError) {
-    QDir(folder.path()).mkpath("map.bmp/inner");
+    folder.make_folder("map.bmp/inner");
     expect_error(ErrorNumber::path_file_access, "map.bmp", [&] { read_file(path("map.bmp")); });
     expect_error(ErrorNumber::path_file_access, "map.bmp",
                  [&] { replace_file(path("map.bmp"), "x"); });
-    EXPECT_TRUE(QDir(folder.filePath("map.bmp/inner")).exists());
+    EXPECT_TRUE(QDir(folder.native("map.bmp/inner")).exists());
 }
 
 TEST_F(FilesTest, LongestNameIsReplaced) {
@@ -144,7 +136,7 @@ TEST_F(FilesTest, FailedWriteLeavesTheOldFileWhole) {
                      [&] { replace_file(path("x.csv"), std::string(size, 'n')); });
         limit.reset();
         EXPECT_EQ(read_file(path("x.csv")), "old");
-        EXPECT_EQ(names(), QStringList("x.csv"));
+        EXPECT_EQ(folder.names(), QStringList("x.csv"));
     }
 }
 
@@ -152,13 +144,13 @@ TEST_F(FilesTest, MissingPermissionIsAnError) {
     if (geteuid() == 0)
         GTEST_SKIP() << "the superuser may do everything";
     replace_file(path("x.csv"), "old");
-    QFile::setPermissions(folder.filePath("x.csv"), {});
+    QFile::setPermissions(folder.native("x.csv"), {});
     expect_error(ErrorNumber::permission_denied, "x.csv", [&] { read_file(path("x.csv")); });
-    QFile::setPermissions(folder.filePath("x.csv"), QFile::ReadOwner | QFile::WriteOwner);
-    QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::ExeOwner);
+    QFile::setPermissions(folder.native("x.csv"), QFile::ReadOwner | QFile::WriteOwner);
+    QFile::setPermissions(folder.native(), QFile::ReadOwner | QFile::ExeOwner);
     expect_error(ErrorNumber::permission_denied, "new.csv",
                  [&] { replace_file(path("new.csv"), "new"); });
-    QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QFile::setPermissions(folder.native(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     EXPECT_EQ(read_file(path("x.csv")), "old");
 }
 

@@ -1,8 +1,8 @@
 #include "base/qt_text.h"
 #include "base/stored_path.h"
+#include "support/folder.h"
 
 #include <QDir>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -36,12 +36,12 @@ TEST(StoredPath, ComesFromNative) {
 }
 
 TEST(StoredPath, FindsNamesThatDifferInLetterCaseOnly) {
-    const QTemporaryDir folder;
-    const QDir dir(folder.path());
+    const support::Folder folder;
+    const QDir dir(folder.native());
     dir.mkpath(QString::fromUtf8("Gfx/\xC3\x89t\xC3\xA9"));
     QFile(dir.filePath(QString::fromUtf8("Gfx/\xC3\x89t\xC3\xA9/Ship.BMP")))
         .open(QIODevice::WriteOnly);
-    const std::string stored = stored_path(folder.path());
+    const std::string stored = folder.path();
     const QString found = dir.filePath(QString::fromUtf8("Gfx/\xC3\x89t\xC3\xA9/Ship.BMP"));
     EXPECT_EQ(native_path(stored + "\\gfx\\\xE9t\xE9\\SHIP.bmp"), found);
     EXPECT_EQ(native_path(stored + "\\GFX\\new.bmp"), dir.filePath("Gfx/new.bmp"));
@@ -55,8 +55,8 @@ TEST(StoredPath, FindsNamesThatDifferInLetterCaseOnly) {
 
 TEST(StoredPath, CurrentFolderIsSearchedForRelativeNames) {
     const QString before = QDir::currentPath();
-    const QTemporaryDir folder;
-    QDir::setCurrent(folder.path());
+    const support::Folder folder;
+    QDir::setCurrent(folder.native());
     QFile("Province.csv").open(QIODevice::WriteOnly);
     EXPECT_EQ(QFileInfo(native_path("PROVINCE.CSV")).absoluteFilePath(),
               QFileInfo("Province.csv").absoluteFilePath());

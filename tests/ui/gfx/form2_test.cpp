@@ -1,15 +1,13 @@
-#include "base/stored_path.h"
 #include "data/run_time_error.h"
 #include "gfx/form2.h"
 #include "shell/session.h"
 #include "support/dialog_driver.h"
+#include "support/folder.h"
 #include "support/leaks.h"
 
-#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -141,9 +139,9 @@ TEST_F(Form2Test, MissingValuesKeepTheDialogOpen) {
 }
 
 TEST_F(Form2Test, BrowsingFillsTheFieldBesideTheButton) {
-    const QTemporaryDir folder;
-    const std::string stored = base::stored_path(folder.path());
-    QFile(folder.filePath("relief.bmp")).open(QIODevice::WriteOnly);
+    const support::Folder folder;
+    const std::string stored = folder.path();
+    folder.write("relief.bmp");
     session.configuration.map_bitmap_path = stored + "\\";
 
     const auto browse = [](gfx::Form2& form, int index, const char* answer) {

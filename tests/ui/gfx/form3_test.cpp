@@ -1,16 +1,13 @@
-#include "base/stored_path.h"
 #include "data/run_time_error.h"
 #include "gfx/form3.h"
 #include "shell/session.h"
 #include "support/dialog_driver.h"
+#include "support/folder.h"
 #include "support/leaks.h"
 
-#include <QDir>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -33,17 +30,11 @@ class Form3Test : public testing::Test {
                                                 "\"MENU_Form5.Label1\",\"Nom\"\r\n"
                                                 "\"MESSAGE_mess3\",\"limit\"\r\n"
                                                 "\"MESSAGE_mess4\",\"no name\"\r\n");
-        session.configuration.graphics_folder = base::stored_path(folder.path());
-        write("one.spr", "Bitmap=\"one.bmp\"\r\norigin x=1 y=1\r\nframes=1\r\n");
-        write("two.SPR", "Bitmap=\"a.bmp\" origin x=1 y=1 frames=1\r\n"
-                         "Bitmap=\"b.bmp\" origin x=2 y=2 frames=2\r\n");
-        write("three.txt", "");
-    }
-
-    void write(const char* name, const char* bytes) {
-        QFile file(folder.filePath(QString::fromLatin1(name)));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
+        session.configuration.graphics_folder = folder.path();
+        folder.write("one.spr", "Bitmap=\"one.bmp\"\r\norigin x=1 y=1\r\nframes=1\r\n");
+        folder.write("two.SPR", "Bitmap=\"a.bmp\" origin x=1 y=1 frames=1\r\n"
+                                "Bitmap=\"b.bmp\" origin x=2 y=2 frames=2\r\n");
+        folder.write("three.txt", "");
     }
 
     void run(const std::function<void(gfx::Form3&)>& act) {
@@ -96,7 +87,7 @@ class Form3Test : public testing::Test {
 
     int count(SpriteKind kind) const { return session.graphics.sprites.of(kind).count; }
 
-    QTemporaryDir folder;
+    support::Folder folder;
     shell::Session session;
 };
 
@@ -135,8 +126,7 @@ TEST_F(Form3Test, AddsASetOfEveryKind) {
             EXPECT_EQ(session.graphics.files.saved().back().kind, gfx::info(kind.kind).word);
         }
     });
-    EXPECT_EQ(session.graphics.files.saved()[0].path,
-              base::stored_path(folder.filePath(QStringLiteral("one.spr"))));
+    EXPECT_EQ(session.graphics.files.saved()[0].path, folder.path("one.spr"));
     EXPECT_EQ(session.graphics.sprites.of(SpriteKind::port).rows[0].bitmap_path,
               session.configuration.graphics_folder + "\\bmp\\one.bmp");
 }
@@ -239,8 +229,7 @@ TEST_F(Form3Test, TakingOutWithNothingSelectedFails) {
 }
 
 TEST_F(Form3Test, FolderButtonsOpenTheChooser) {
-    QDir(folder.path()).mkdir(QStringLiteral("sub"));
-    write("sub/inner.spr", "");
+    folder.write("sub/inner.spr", "");
     const std::string sub = session.configuration.graphics_folder + "\\sub";
     const auto press_ok = [this](gfx::ChooserKind expected) {
         QTimer::singleShot(0, [this, expected] {

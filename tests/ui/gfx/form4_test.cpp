@@ -3,12 +3,12 @@
 #include "gfx/form4.h"
 #include "shell/session.h"
 #include "support/dialog_driver.h"
+#include "support/folder.h"
 
 #include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -54,7 +54,7 @@ class Form4Test : public testing::Test {
         touch("sub/inner.csv");
     }
 
-    QString native() const { return temporary.path() + "/data"; }
+    QString native() const { return temporary.native("data"); }
 
     void touch(const QString& name) {
         QDir().mkpath(native());
@@ -95,7 +95,7 @@ class Form4Test : public testing::Test {
     QListWidget& files() { return control<QListWidget>(form, "File1"); }
     QLineEdit& name() { return control<QLineEdit>(form, "Text1"); }
 
-    QTemporaryDir temporary;
+    support::Folder temporary;
     shell::Session session;
     gfx::Form4 form{session, nullptr};
 };
@@ -128,8 +128,8 @@ TEST_F(Form4Test, OpensAtThePathOfItsKind) {
             EXPECT_EQ(texts(files()), row.files);
             const auto shown = texts(folders());
             EXPECT_EQ(shown.front(), "c:\\");
-            EXPECT_EQ(shown.mid(shown.size() - 4),
-                      QStringList({QDir(temporary.path()).dirName(), "data", "folder.csv", "sub"}));
+            EXPECT_EQ(shown.mid(shown.size() - 4), QStringList({QDir(temporary.native()).dirName(),
+                                                                "data", "folder.csv", "sub"}));
             EXPECT_EQ(folders().currentItem()->text(), "data");
             EXPECT_EQ(control<QComboBox>(form, "Drive1").currentText(), "c:");
             EXPECT_EQ(control<QPushButton>(form, "Command1").text(), "Choisir");

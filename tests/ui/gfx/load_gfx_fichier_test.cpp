@@ -1,10 +1,7 @@
-#include "base/stored_path.h"
 #include "data/run_time_error.h"
 #include "gfx/load_gfx_fichier.h"
 #include "shell/session.h"
-
-#include <QFile>
-#include <QTemporaryDir>
+#include "support/folder.h"
 
 #include <gtest/gtest.h>
 
@@ -14,12 +11,7 @@ using data::ErrorNumber;
 
 class LoadGfxFichier : public testing::Test {
   protected:
-    std::string descriptor(const QByteArray& bytes) {
-        QFile file(folder.filePath(QStringLiteral("a.spr")));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        return base::stored_path(file.fileName());
-    }
+    std::string descriptor(std::string_view bytes) const { return folder.write("a.spr", bytes); }
 
     /// Returns the error that the loading of the file ends with.
     data::RunTimeError error_of(const std::string& path) {
@@ -31,7 +23,7 @@ class LoadGfxFichier : public testing::Test {
         throw std::runtime_error("loaded without an error");
     }
 
-    QTemporaryDir folder;
+    support::Folder folder;
     shell::Session session;
 };
 
@@ -51,7 +43,7 @@ TEST_F(LoadGfxFichier, KeepsTheFileAndTheFolderAsItStands) {
 }
 
 TEST_F(LoadGfxFichier, MissingFileLeavesTheListAlone) {
-    const auto error = error_of(base::stored_path(folder.filePath(QStringLiteral("none.spr"))));
+    const auto error = error_of(folder.path("none.spr"));
     EXPECT_EQ(error.number(), ErrorNumber::file_not_found);
     EXPECT_NE(error.place().find("none.spr"), std::string::npos);
     EXPECT_EQ(session.graphics.files.count(), 0);

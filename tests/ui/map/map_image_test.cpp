@@ -1,6 +1,7 @@
 #include "data/run_time_error.h"
 #include "map/map_image.h"
 #include "support/bitmaps.h"
+#include "support/folder.h"
 
 #include <QFile>
 #include <QImage>
@@ -37,7 +38,7 @@ std::string masks(std::uint32_t red, std::uint32_t green, std::uint32_t blue) {
 }
 
 TEST(MapImage, ReadsEveryUncompressedForm) {
-    const bitmaps::Folder folder;
+    const support::Folder folder;
     const Format formats[] = {
         {37, 11, 1, "", 2},
         {37, 11, 4, "", 16},
@@ -79,7 +80,7 @@ TEST(MapImage, ReadsEveryUncompressedForm) {
 }
 
 TEST(MapImage, IdentifiesWithSixteenBits) {
-    const bitmaps::Folder folder;
+    const support::Folder folder;
     std::string bytes = bitmaps::header({4, 1, 16});
     for (const std::uint32_t pixel : {0x4000U, 0x0200U, 0x0010U, 0x7FFFU})
         bytes += bitmaps::number(pixel, 2);
@@ -90,7 +91,7 @@ TEST(MapImage, IdentifiesWithSixteenBits) {
 }
 
 TEST(MapImage, DecodesOtherImages) {
-    const bitmaps::Folder folder;
+    const support::Folder folder;
     QImage painted(30, 20, QImage::Format_RGB32);
     painted.fill(QColor(0, 128, 0));
     painted.setPixelColor(29, 19, QColor(128, 0, 0));
@@ -101,7 +102,7 @@ TEST(MapImage, DecodesOtherImages) {
 }
 
 TEST(MapImage, HasNoColourOutside) {
-    const bitmaps::Folder folder;
+    const support::Folder folder;
     const map::MapImage image(folder.write("map.bmp", bitmaps::noise({5, 4, 24})));
     for (const QPoint point : {QPoint(-1, 0), QPoint(0, -1), QPoint(5, 0), QPoint(0, 4)})
         EXPECT_FALSE(image.colour_at(point));
@@ -145,7 +146,7 @@ TEST(MapImage, RefusesWhatIsNoMap) {
         {"promises", sized(largest, -largest), "the file has 1054"},
         {"2 bits", bitmaps::header({5, 5, 2}) + std::string(1000, 'x'), "2 bits per pixel"},
     };
-    const bitmaps::Folder folder;
+    const support::Folder folder;
     for (const auto& row : rows) {
         try {
             const map::MapImage image(folder.write("refused.bmp", row.bytes));
@@ -159,7 +160,7 @@ TEST(MapImage, RefusesWhatIsNoMap) {
 }
 
 TEST(MapImage, MissingPaddingOfTheLastRowIsNoLoss) {
-    const bitmaps::Folder folder;
+    const support::Folder folder;
     const std::string bytes = bitmaps::noise({5, -4, 24}); // 15 bytes a row and one idle
     const map::MapImage whole(folder.write("whole.bmp", bytes));
     const map::MapImage short_one(
@@ -168,7 +169,7 @@ TEST(MapImage, MissingPaddingOfTheLastRowIsNoLoss) {
 }
 
 TEST(MapImage, NamesWhatCannotBeFound) {
-    const bitmaps::Folder folder;
+    const support::Folder folder;
     struct Row {
         const char* name;
         ErrorNumber number;
@@ -186,7 +187,7 @@ TEST(MapImage, NamesWhatCannotBeFound) {
 }
 
 TEST(MapImage, FollowsItsFile) {
-    const bitmaps::Folder folder;
+    const support::Folder folder;
     const auto red = bitmaps::painted(40, 30, [](int, int) { return 0xFF0000U; });
     const auto blue = bitmaps::painted(40, 30, [](int, int) { return 0x0000FFU; });
     const map::MapImage image(folder.write("map.bmp", red));

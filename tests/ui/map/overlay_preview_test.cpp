@@ -1,12 +1,10 @@
-#include "base/stored_path.h"
 #include "gfx/terrain_art.h"
 #include "map/overlay_preview.h"
+#include "support/folder.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <QFile>
 #include <QPainter>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -35,21 +33,21 @@ QImage sprite(int width, int height, QRgb colour) {
 class OverlayPreviewTest : public testing::Test {
   protected:
     OverlayPreviewTest() {
-        QDir(folder.path()).mkdir(QStringLiteral("bmp"));
-        session.configuration.graphics_folder = base::stored_path(folder.path());
-        session.configuration.terrain_art_folder = base::stored_path(folder.path());
+        folder.make_folder("bmp");
+        session.configuration.graphics_folder = folder.path();
+        session.configuration.terrain_art_folder = folder.path();
         session.mode = Mode::ville;
         preview.on_problem = [this](const QString& text) { problems += text; };
     }
 
     void save(const QImage& image, const QString& name) {
-        ASSERT_TRUE(image.save(folder.filePath(name), "BMP"));
+        ASSERT_TRUE(image.save(folder.native(name), "BMP"));
     }
 
     void load_sprite(SpriteKind kind, const QString& name, std::int16_t origin_x,
                      std::int16_t origin_y, std::int16_t frames, std::size_t row = 0) {
-        session.graphics.sprites.of(kind).rows[row] = {base::stored_path(folder.filePath(name)),
-                                                       "set", origin_x, origin_y, frames};
+        session.graphics.sprites.of(kind).rows[row] = {folder.path(name), "set", origin_x, origin_y,
+                                                       frames};
     }
 
     void set(int province, FileColumn column, const char* text) {
@@ -85,7 +83,7 @@ class OverlayPreviewTest : public testing::Test {
 
     static QRect marker(int x, int y) { return {x - 6, y - 6, 13, 13}; }
 
-    QTemporaryDir folder;
+    support::Folder folder;
     shell::Session session;
     map::OverlayPreview preview{session};
     QStringList problems;
@@ -208,7 +206,7 @@ TEST_F(OverlayPreviewTest, MarkerStaysWithoutAPictureAndSaysWhyOnce) {
     ASSERT_EQ(problems.size(), 1);
     EXPECT_TRUE(problems[0].contains("no sprite set")) << problems[0].toStdString();
 
-    QFile(folder.filePath("text.bmp")).open(QIODevice::WriteOnly);
+    folder.write("text.bmp");
     for (const char* name : {"missing.bmp", "text.bmp", "bmp"}) {
         problems.clear();
         load_sprite(SpriteKind::ville, name, 3, 3, 1);
@@ -227,7 +225,7 @@ TEST_F(OverlayPreviewTest, BitmapIsReadAgainWhenItsFileChanges) {
     save(sprite(4, 4, red), "b.bmp");
     EXPECT_EQ(painted().pixel(20, 21), red);
     save(sprite(4, 4, green), "b.bmp"); // as long as before: only the time tells
-    QFile file(folder.filePath("b.bmp"));
+    QFile file(folder.native("b.bmp"));
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
     file.setFileTime(QDateTime::currentDateTime().addSecs(5), QFileDevice::FileModificationTime);
     file.close();

@@ -1,6 +1,7 @@
 #include "data/province_file.h"
 #include "sample.h"
 #include "shell/menus.h"
+#include "support/bitmaps.h"
 #include "support/leaks.h"
 #include "support/main_frame.h"
 
@@ -59,7 +60,7 @@ TEST_F(MDIForm1, FirstRun) {
                                   "\"BMP\",\"c:\",0\r\n"
                                   "\"LAN\",\"english.lng\",0\r\n");
     EXPECT_TRUE(boxes.take().empty());
-    EXPECT_FALSE(has_file("recovered.csv"));
+    EXPECT_FALSE(folder.has("recovered.csv"));
 }
 
 TEST_F(MDIForm1, LaterRunsRememberWhatTheFileHolds) {
@@ -223,7 +224,7 @@ TEST_F(MDIForm1, ClosingAsksOnlyWhenMapsAreOpen) {
     open_maps();
     enter("nom_province", "saved");
     boxes.answer = QMessageBox::Yes;
-    in_chooser([](QDialog& chooser) {
+    in_dialog("Form4", [](QDialog& chooser) {
         QTest::keyClicks(&driver::control<QLineEdit>(chooser, "Text1"), "last");
         driver::press(chooser, "Command1");
     });
@@ -235,7 +236,7 @@ TEST_F(MDIForm1, ClosingAsksOnlyWhenMapsAreOpen) {
     EXPECT_EQ(seen[0].text, session.language.message(data::Message::save_question));
     EXPECT_EQ(seen[0].preset, QMessageBox::Yes);
     EXPECT_NE(file("last.csv").find("\r\n5;saved;"), std::string::npos);
-    EXPECT_FALSE(has_file("recovered.csv")) << "all is saved";
+    EXPECT_FALSE(folder.has("recovered.csv")) << "all is saved";
     EXPECT_NE(file("config.txt").find("last.csv"), std::string::npos);
     frame.reset();
 
@@ -325,7 +326,7 @@ TEST_F(MDIForm1, OpenSelectChangeAndSave) {
     select("5");
     click("nom_ville"); // shows what the file is about to replace
     boxes.answer = QMessageBox::Yes;
-    in_chooser([](QDialog& chooser) {
+    in_dialog("Form4", [](QDialog& chooser) {
         auto& files = driver::control<QListWidget>(chooser, "File1");
         const auto items = files.findItems("Province.csv", Qt::MatchExactly);
         ASSERT_EQ(items.size(), 1);
@@ -380,7 +381,7 @@ TEST_F(MDIForm1, OpenSelectChangeAndSave) {
     }
     EXPECT_EQ(after.substr(0, after.find('\r')), before.substr(0, before.find('\r')));
     close();
-    EXPECT_FALSE(has_file("recovered.csv"));
+    EXPECT_FALSE(folder.has("recovered.csv"));
 }
 
 } // namespace
