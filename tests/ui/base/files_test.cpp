@@ -73,30 +73,29 @@ TEST_F(FilesTest, LongestNameIsReplaced) {
     replace_file(path(name), "old");
     replace_file(path(name), "new", base::Written::by_system);
     EXPECT_EQ(read_file(path(name)), "new");
-    EXPECT_EQ(names().size(), 1);
+    EXPECT_EQ(folder.names().size(), 1);
 }
 
 TEST_F(FilesTest, AFreeNameIsTakenOnce) {
     EXPECT_TRUE(create_file(path("x.csv"), "first"));
     EXPECT_FALSE(create_file(path("x.csv"), "second"));
     EXPECT_EQ(read_file(path("x.csv")), "first");
-    EXPECT_EQ(names(), QStringList("x.csv"));
+    EXPECT_EQ(folder.names(), QStringList("x.csv"));
 }
 
 #ifdef Q_OS_UNIX
 
 TEST_F(FilesTest, LinksPermissionsAndMissingTargetsStay) {
     replace_file(path("real.csv"), "old");
-    QFile::setPermissions(folder.filePath("real.csv"), QFile::ReadOwner | QFile::WriteOwner);
-    QFile::link("real.csv", folder.filePath("link.csv"));
-    QFile::link("link.csv", folder.filePath("chain.csv"));
-    QFile::link("gone.csv", folder.filePath("dangling.csv"));
+    QFile::setPermissions(folder.native("real.csv"), QFile::ReadOwner | QFile::WriteOwner);
+    QFile::link("real.csv", folder.native("link.csv"));
+    QFile::link("link.csv", folder.native("chain.csv"));
+    QFile::link("gone.csv", folder.native("dangling.csv"));
     replace_file(path("chain.csv"), "new");
     replace_file(path("dangling.csv"), "made");
     EXPECT_EQ(read_file(path("real.csv")) + read_file(path("gone.csv")), "newmade");
-    EXPECT_TRUE(QFileInfo(folder.filePath("chain.csv")).isSymLink());
-    EXPECT_EQ(QFile::permissions(folder.filePath("real.csv")) &
-                  (QFile::ReadGroup | QFile::ReadOther),
+    EXPECT_TRUE(QFileInfo(folder.native("chain.csv")).isSymLink());
+    EXPECT_EQ(QFile::permissions(folder.native("real.csv")) & (QFile::ReadGroup | QFile::ReadOther),
               QFile::Permissions());
     EXPECT_FALSE(create_file(path("dangling.csv"), "planted"));
 }
