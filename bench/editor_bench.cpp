@@ -117,7 +117,7 @@ class Program {
 void apply_selection_until_the_panel_is_shown(benchmark::State& state) {
     const Program program;
     const auto session = program.session();
-    shell::MDIForm1 frame(*session);
+    shell::MDIForm1 frame(*session, shell::start_up(*session));
     session->provinces = full_table();
     frame.show();
     QApplication::processEvents();
@@ -134,7 +134,7 @@ void start_until_the_main_frame_is_shown(benchmark::State& state) {
     const Program program;
     for ([[maybe_unused]] auto _ : state) {
         const auto session = program.session();
-        shell::MDIForm1 frame(*session);
+        shell::MDIForm1 frame(*session, shell::start_up(*session));
         frame.show();
         QApplication::processEvents();
         benchmark::DoNotOptimize(frame.isVisible());

@@ -1,12 +1,14 @@
 #include "base/files.h"
-#include "base/qt_text.h"
+#include "base/shown_text.h"
 #include "base/stored_path.h"
 #include "data/province_file.h"
 #include "shell/application.h"
 #include "shell/command_line.h"
 #include "shell/mdi_form1.h"
+#include "shell/start_up.h"
 #include "shell/termination.h"
 
+#include <QPointer>
 #include <QScreen>
 
 #include <cstdio>
@@ -39,8 +41,8 @@ bool has_display() {
 }
 
 /// Tells on standard error how much of the province file was understood, and why nothing was.
-void report(const std::string& path, const data::ReadReport& read) {
-    std::cerr << base::to_utf8(base::shown_path(path)) << ": provinces read: " << read.provinces;
+void tell_what_was_read(const std::string& path, const data::ReadReport& read) {
+    std::cerr << base::message_text(base::shown_path(path)).toStdString() << ": provinces read: " << read.provinces;
     if (read.provinces == 0 && read.lines == 0)
         std::cerr << ": the file is empty";
     else if (read.provinces == 0 && !read.has_carriage_return)
@@ -53,10 +55,8 @@ void report(const std::string& path, const data::ReadReport& read) {
 }
 
 void obey(const shell::CommandLine& line, shell::Session& session, shell::MDIForm1& frame) {
-    if (line.csv) {
-        session.configuration.province_file_path = *line.csv;
-        report(*line.csv, frame.open_province_file());
-    }
+    if (line.csv)
+        tell_what_was_read(*line.csv, frame.open_province_file(*line.csv));
     if (line.maps) {
         session.maps = *line.maps;
         frame.open_maps();
@@ -69,7 +69,7 @@ void save_picture(QWidget& frame, const QString& file) {
     frame.show();
     QApplication::processEvents();
     if (!frame.grab().save(file, "PNG"))
-        throw std::runtime_error("The picture could not be written to " + base::to_bytes(file));
+        throw std::runtime_error("The picture could not be written to " + base::path_bytes(file));
 }
 
 /// A frame that its screen could not hold together with its title bar takes the whole screen.
@@ -81,18 +81,18 @@ void show_window(QWidget& frame) {
         frame.showMaximized();
 }
 
-int run(shell::Application& application, shell::Session& session, const shell::CommandLine& line) {
+int run_program(shell::Application& application, shell::Session& session, const shell::CommandLine& line) {
     session.program_folder =
         line.folder.value_or(base::stored_path(QApplication::applicationDirPath()));
     session.unattended = line.screenshot.has_value();
 
-    shell::MDIForm1 frame(session);
-    const shell::Termination termination(
-        [&](int status) {
-            frame.keep_typed_text();
-            application.terminate(status);
-        },
-        [&] { application.save_unsaved(); });
+    shell::MDIForm1 frame(session, shell::start_up(session));
+    application.keep_typed_text = [kept = QPointer(&frame)] {
+        if (kept)
+            kept->keep_typed_text();
+    };
+    const shell::Termination termination([&](int status) { application.terminate(status); },
+                                         [&] { application.save_unsaved(); });
     if (line.screenshot) {
         obey(line, session, frame);
         save_picture(frame, *line.screenshot);
@@ -104,7 +104,8 @@ int run(shell::Application& application, shell::Session& session, const shell::C
     return QApplication::exec();
 }
 
-int start(int& argc, char** argv) {
+int start_program(int& argc, char** argv) {
+    shell::ignore_closed_pipes();
     const bool is_seen = has_display();
     if (!is_seen)
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -123,9 +124,9 @@ int start(int& argc, char** argv) {
         return EXIT_FAILURE;
     }
     try {
-        return run(application, session, line);
+        return run_program(application, session, line);
     } catch (const std::exception& error) {
-        application.fail(error);
+        application.end_with_error(error);
         return EXIT_FAILURE;
     }
 }
@@ -134,7 +135,7 @@ int start(int& argc, char** argv) {
 
 int main(int argc, char** argv) {
     try {
-        return start(argc, argv);
+        return start_program(argc, argv);
     } catch (const std::exception& error) {
         std::fputs(error.what(), stderr);
         return EXIT_FAILURE;

@@ -46,7 +46,7 @@ class MainFrame : public testing::Test {
     }
 
     void start() {
-        frame = std::make_unique<shell::MDIForm1>(session);
+        frame = std::make_unique<shell::MDIForm1>(session, shell::start_up(session));
         frame->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(frame.get()));
     }

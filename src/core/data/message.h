@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 namespace data {
 
 /// The messages of a language file that the program shows, by their number: record "mess15" is
@@ -17,5 +19,10 @@ enum class Message {
     save_question = 17,
     language_notice = 18,
 };
+
+/// Returns where the message stands in an array of all messages, which are counted from 1.
+constexpr std::size_t position_of(Message message) {
+    return static_cast<std::size_t>(message) - 1;
+}
 
 } // namespace data

@@ -6,6 +6,27 @@
 
 namespace data {
 
+namespace {
+
+constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
+
+bool is_utf_16(std::string_view bytes) {
+    if (bytes.size() < 2)
+        return false;
+    const bool is_marked = bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
+    return is_marked || (bytes[0] == '\0') != (bytes[1] == '\0');
+}
+
+} // namespace
+
+RecordReader::RecordReader(std::string_view bytes) : rest_(bytes) {
+    if (is_utf_16(bytes))
+        throw RunTimeError(ErrorNumber::invalid_procedure_call,
+                           "the file is stored as UTF-16, Windows-1252 (\"ANSI\") was expected");
+    if (rest_.starts_with(byte_order_mark))
+        rest_.remove_prefix(byte_order_mark.size());
+}
+
 void RecordReader::drop(std::size_t count) {
     const auto dropped = rest_.substr(0, count);
     const auto line_feeds = std::count(dropped.begin(), dropped.end(), '\n');

@@ -10,7 +10,8 @@ namespace data {
 /// unquoted field are dropped, empty lines between two records are passed over.
 class RecordReader {
   public:
-    explicit RecordReader(std::string_view bytes) : rest_(bytes) {}
+    /// Passes over a byte order mark. Throws invalid procedure call for a file in UTF-16.
+    explicit RecordReader(std::string_view bytes);
 
     /// Returns whether no further record begins.
     bool at_end();

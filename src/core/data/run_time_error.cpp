@@ -35,7 +35,13 @@ std::string message(ErrorNumber number, std::string_view place) {
     std::string text = "Run-time error " + std::to_string(static_cast<int>(number)) + ": ";
     text.append(words(number));
     if (!place.empty())
-        text.append("\n").append(place);
+        text += '\n';
+    for (const char character : place) {
+        if (character == '\0')
+            text += "\\0"; // it would end the words of an exception
+        else
+            text += character;
+    }
     return text;
 }
 

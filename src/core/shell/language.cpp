@@ -72,7 +72,7 @@ LanguageTexts::LanguageTexts(std::string_view bytes) : LanguageTexts() {
             take_own_text(std::string_view(key).substr(text_prefix.size()), std::move(text));
     }
     number_texts(status_texts_, this->list("MESS_"), "bar(", ")");
-    number_texts(message_texts_, this->list("MESSAGE_"), "mess", "");
+    number_texts(message_texts_.values, this->list("MESSAGE_"), "mess", "");
 }
 
 void LanguageTexts::take_own_text(std::string_view key, std::string text) {
@@ -105,7 +105,7 @@ std::optional<std::string> LanguageTexts::exact_caption(std::string_view key) co
 }
 
 const std::string& LanguageTexts::message(data::Message message) const {
-    return message_texts_.at(static_cast<std::size_t>(message) - 1);
+    return message_texts_[message];
 }
 
 const std::string& LanguageTexts::status(int number) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/indexed_array.h"
 #include "data/message.h"
 #include "shell/texts.h"
 
@@ -85,7 +86,7 @@ class LanguageTexts {
     void take_own_text(std::string_view key, std::string text);
 
     std::array<std::vector<Entry>, value_lists.size()> lists_;
-    std::array<std::string, 18> message_texts_;
+    data::IndexedArray<data::Message, std::string, 18> message_texts_;
     std::array<std::string, 7> status_texts_;
     data::IndexedArray<Text, std::string, text_count> own_texts_;
 };

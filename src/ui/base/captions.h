@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/qt_text.h"
+#include "base/shown_text.h"
 #include "shell/language.h"
 
 #include <QString>
@@ -14,7 +15,7 @@ namespace base {
 inline QString frame_caption(const shell::LanguageTexts& language, std::string_view key,
                              std::string_view design) {
     const auto caption = language.caption("MDIForm1." + to_bytes(from_utf8(key)));
-    return caption ? to_qstring(*caption) : from_utf8(design);
+    return caption ? caption_text(*caption) : from_utf8(design);
 }
 
 /// Returns a dialog's caption for the key, spelled exactly so; the design-time caption where the
@@ -22,7 +23,7 @@ inline QString frame_caption(const shell::LanguageTexts& language, std::string_v
 inline QString dialog_caption(const shell::LanguageTexts& language, std::string_view key,
                               std::string_view design) {
     const auto caption = language.exact_caption(key);
-    return caption ? to_qstring(*caption) : from_utf8(design);
+    return caption ? caption_text(*caption) : from_utf8(design);
 }
 
 } // namespace base

@@ -1,7 +1,6 @@
 #include "base/files.h"
 
 #include "base/new_file.h"
-#include "base/qt_text.h"
 #include "base/stored_path.h"
 #include "data/run_time_error.h"
 
@@ -19,7 +18,7 @@ using data::ErrorNumber;
 using data::RunTimeError;
 
 [[noreturn]] void throw_error(ErrorNumber number, const QString& path, const QString& reason) {
-    throw RunTimeError(number, to_bytes(QDir::toNativeSeparators(path) + ": " + reason));
+    throw RunTimeError(number, path_bytes(QDir::toNativeSeparators(path) + ": " + reason));
 }
 
 /// Throws what an access to the path fails with before the file itself is opened.
@@ -93,7 +92,7 @@ bool create_file(std::string_view path, std::string_view bytes) {
 }
 
 std::string shown_path(std::string_view path) {
-    return to_bytes(QDir::toNativeSeparators(native_path(path)));
+    return path_bytes(QDir::toNativeSeparators(native_path(path)));
 }
 
 } // namespace base

@@ -23,7 +23,7 @@ void replace_file(std::string_view path, std::string_view bytes,
 /// something of that name is there. Nobody else may read it. Throws what replace_file throws.
 bool create_file(std::string_view path, std::string_view bytes);
 
-/// Returns the path as the user knows it, for the place of an error.
+/// Returns the path as the user knows it, for the place of an error; message_text() shows it whole.
 std::string shown_path(std::string_view path);
 
 } // namespace base

@@ -1,6 +1,6 @@
 #include "base/messages.h"
 
-#include "base/qt_text.h"
+#include "base/shown_text.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -13,7 +13,7 @@ namespace {
 
 int show_box(QWidget* owner, const char* name, QMessageBox::Icon icon, const std::string& text,
              QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset) {
-    QMessageBox box(icon, QApplication::applicationDisplayName(), to_qstring(text), buttons, owner);
+    QMessageBox box(icon, QApplication::applicationDisplayName(), message_text(text), buttons, owner);
     box.setObjectName(QString::fromLatin1(name));
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(preset);

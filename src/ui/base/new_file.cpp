@@ -1,6 +1,6 @@
 #include "base/new_file.h"
 
-#include "base/qt_text.h"
+#include "base/stored_path.h"
 #include "data/run_time_error.h"
 
 #include <QDir>
@@ -33,7 +33,7 @@ ErrorNumber number_of(const std::error_code& error) {
 }
 
 [[noreturn]] void throw_error(const QString& path, const std::error_code& error) {
-    throw data::RunTimeError(number_of(error), to_bytes(QDir::toNativeSeparators(path) + ": " +
+    throw data::RunTimeError(number_of(error), path_bytes(QDir::toNativeSeparators(path) + ": " +
                                                         QString::fromLocal8Bit(error.message())));
 }
 

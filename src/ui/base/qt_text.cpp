@@ -52,10 +52,6 @@ std::string to_bytes(const QString& text) {
     return bytes;
 }
 
-std::string to_utf8(std::string_view bytes) {
-    return to_qstring(bytes).toStdString();
-}
-
 QString from_utf8(std::string_view literal) {
     return QString::fromUtf8(literal.data(), static_cast<qsizetype>(literal.size()));
 }

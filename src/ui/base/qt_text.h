@@ -15,9 +15,6 @@ QString to_qstring(std::string_view bytes);
 /// Returns the bytes of the text, "?" for a character outside the code page.
 std::string to_bytes(const QString& text);
 
-/// Returns the bytes' text in UTF-8, for standard error.
-std::string to_utf8(std::string_view bytes);
-
 /// Returns the text of a literal in UTF-8, the encoding of the sources.
 QString from_utf8(std::string_view literal);
 

@@ -11,6 +11,13 @@ namespace base {
 namespace {
 
 constexpr char separator = '\\';
+constexpr char substitute = '\x1A';
+constexpr qsizetype digits = 4; // of a UTF-16 unit
+constexpr int hexadecimal = 16;
+
+bool is_in_code_page(const QString& text) {
+    return to_qstring(to_bytes(text)) == text;
+}
 
 bool has_drive(const QString& path) {
     return path.size() >= 2 && path[0].isLetter() && path[1] == ':';
@@ -44,8 +51,36 @@ QString with_letter_case_of_the_disk(const QString& path) {
 
 } // namespace
 
+std::string path_bytes(const QString& path) {
+    std::string bytes;
+    for (const QChar character : path) {
+        if (is_in_code_page(character) && character != QLatin1Char(substitute))
+            bytes += to_bytes(character);
+        else
+            bytes += substitute + QStringLiteral("%1")
+                                      .arg(character.unicode(), digits, hexadecimal, QChar('0'))
+                                      .toStdString();
+    }
+    return bytes;
+}
+
+QString path_text(std::string_view bytes) {
+    const QString spelled = to_qstring(bytes);
+    QString text;
+    for (qsizetype at = 0; at < spelled.size(); ++at) {
+        bool is_number = false;
+        const QString number = spelled.mid(at + 1, digits);
+        ushort unit = 0;
+        if (spelled[at] == QLatin1Char(substitute) && number.size() == digits)
+            unit = number.toUShort(&is_number, hexadecimal);
+        text += is_number ? QChar(unit) : spelled[at];
+        at += is_number ? digits : 0;
+    }
+    return text;
+}
+
 QString native_path(std::string_view path) {
-    QString native = to_qstring(path);
+    QString native = path_text(path);
 #ifndef Q_OS_WIN
     if (native.startsWith(QStringLiteral("c:"), Qt::CaseInsensitive))
         native = native.size() == 2 ? QStringLiteral(".") : native.mid(2);
@@ -58,16 +93,21 @@ QString native_path(std::string_view path) {
 
 std::string stored_path(const QString& path) {
     if (has_drive(path))
-        return to_bytes(path);
+        return path_bytes(path);
     QString stored = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     stored.replace('/', separator);
     if (!has_drive(stored))
         stored.prepend(QStringLiteral("c:"));
-    return to_bytes(stored);
+    return path_bytes(stored);
+}
+
+bool is_storable_text(const QString& text) {
+    static const QRegularExpression unstorable(QStringLiteral("[\"\r\n]"));
+    return is_in_code_page(text) && !text.contains(unstorable);
 }
 
 bool is_storable(const QString& name) {
-    return to_qstring(to_bytes(name)) == name && !name.contains(separator);
+    return is_storable_text(name) && !name.contains(separator);
 }
 
 std::string in_folder(std::string_view folder, std::string_view name) {

@@ -109,6 +109,11 @@ void Panneau::set_selection_text(const std::string& text) {
     selection_text_->setText(to_qstring(text));
 }
 
+void Panneau::focus_selection_text() {
+    selection_text_->setFocus(Qt::ShortcutFocusReason);
+    selection_text_->selectAll();
+}
+
 void Panneau::show_selection() {
     const auto values = shown_values(session_.provinces, session_.selection);
     for (const Field& field : fields) {
@@ -210,7 +215,7 @@ Panneau::Show Panneau::bind_group(const Field& field) {
         auto* option = control<OptionButton>(
             *this, QStringLiteral("%1(%2)").arg(from_utf8(field.control)).arg(n));
         if (n < entries.size())
-            option->setText(to_qstring(entries[n].text));
+            option->setText(base::caption_text(entries[n].text));
         group.add(option, n < entries.size() ? entries[n].code : std::string(),
                   [this, &field, &group](const std::string& code) {
                       choose(session_.provinces, session_.selection, field, code);
@@ -226,10 +231,12 @@ Panneau::Show Panneau::bind_list(const Field& field) {
     list->installEventFilter(this);
     const auto entries = session_.language.list(field.list_prefix);
     const auto items = shell::capacity(field.list_prefix);
-    for (std::size_t n = 0; n < items; ++n)
-        list->addItem(n < entries.size() ? to_qstring(entries[n].text) : QString());
+    for (std::size_t n = 0; n < items; ++n) {
+        const std::string text = n < entries.size() ? entries[n].text : std::string();
+        list->addItem(base::caption_text(text), to_qstring(text));
+    }
     connect(list, &QComboBox::activated, this, [this, list, entries, items, &field] {
-        write(shell::code_of_text(entries, items, to_bytes(list->currentText())), field.number);
+        write(shell::code_of_text(entries, items, to_bytes(list->currentData().toString())), field.number);
         if (!anything_selected())
             list->setCurrentIndex(-1);
     });
@@ -242,7 +249,7 @@ Panneau::Show Panneau::bind_box(const Field& field) {
     auto* box = control<PressBox>(*this, field);
     const auto entries = session_.language.list(field.list_prefix);
     if (field.list_entry < entries.size())
-        box->setText(to_qstring(entries[field.list_entry].text));
+        box->setText(base::caption_text(entries[field.list_entry].text));
     connect(box, &QAbstractButton::pressed, this, [this, box, &field] {
         const bool was_on = box->isChecked();
         box->setChecked(!was_on && anything_selected());

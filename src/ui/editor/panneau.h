@@ -27,6 +27,8 @@ class Panneau : public QWidget {
 
     std::string selection_text() const;
     void set_selection_text(const std::string& text);
+    /// Gives the focus to the selection field, its text marked.
+    void focus_selection_text();
 
     /// Shows the selected provinces' values in all controls.
     void show_selection();

@@ -110,9 +110,9 @@ void Form2::apply_captions() {
 
 void Form2::show_present_values() {
     const map::Maps& maps = session_.maps;
-    path_field(0)->setText(base::to_qstring(maps.map_1_path));
-    path_field(1)->setText(base::to_qstring(maps.map_2_path));
-    path_field(2)->setText(base::to_qstring(maps.id_map_path));
+    path_field(0)->setText(base::path_text(maps.map_1_path));
+    path_field(1)->setText(base::path_text(maps.map_2_path));
+    path_field(2)->setText(base::path_text(maps.id_map_path));
     x_offset_->setText(base::to_qstring(data::to_text(maps.x_offset)));
     y_offset_->setText(base::to_qstring(data::to_text(maps.y_offset)));
 }

@@ -1,12 +1,11 @@
 #include "shell/application.h"
 
 #include "base/messages.h"
-#include "base/qt_text.h"
+#include "base/shown_text.h"
 #include "shell/icon.h"
 #include "shell/recovery.h"
 
 #include <iostream>
-#include <string>
 #include <utility>
 
 namespace shell {
@@ -22,18 +21,18 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);
     } catch (const std::exception& error) {
-        fail(error);
+        end_with_error(error);
         return true;
     }
 }
 
-void Application::fail(const std::exception& error) {
+void Application::end_with_error(const std::exception& error) {
     std::string text = error.what();
-    if (const std::string notice = recover(session_); !notice.empty())
+    if (const std::string notice = recover_all(); !notice.empty())
         text += "\n" + notice;
     const bool seen = platformName() != QLatin1String("offscreen") && !session_.unattended;
     if (!in_event_loop_ || !seen)
-        std::cerr << base::to_utf8(text) << std::endl;
+        std::cerr << base::message_text(text).toStdString() << std::endl;
     if (!session_.unattended)
         base::show_error_box(activeWindow(), text);
     save_unsaved(); // while the box was open, room may have been made for it
@@ -46,8 +45,17 @@ void Application::terminate(int exit_status) {
 }
 
 void Application::save_unsaved() {
-    if (const std::string notice = recover(session_); !notice.empty())
-        std::cerr << base::to_utf8(notice) << std::endl;
+    if (const std::string notice = recover_all(); !notice.empty())
+        std::cerr << base::message_text(notice).toStdString() << std::endl;
+}
+
+std::string Application::recover_all() noexcept {
+    try {
+        keep_typed_text();
+    } catch (const std::exception&) {
+        // What the table holds is still worth keeping.
+    }
+    return recover(session_);
 }
 
 } // namespace shell

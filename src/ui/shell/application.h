@@ -6,6 +6,7 @@
 
 #include <exception>
 #include <functional>
+#include <string>
 
 namespace shell {
 
@@ -20,7 +21,7 @@ class Application : public QApplication {
 
     /// Writes the recovery copy, shows the error and ends the program with status 1. On standard
     /// error the text appears as well until the event loop runs and wherever nobody looks.
-    void fail(const std::exception& error);
+    void end_with_error(const std::exception& error);
 
     /// Ends the program on the system's request, after the recovery copy is written.
     void terminate(int exit_status);
@@ -30,7 +31,13 @@ class Application : public QApplication {
 
     void event_loop_begins() { in_event_loop_ = true; }
 
+    /// Takes into the table what was typed and not yet entered; runs before every recovery copy.
+    std::function<void()> keep_typed_text = [] {};
+
   private:
+    /// Returns what the user is told of the copy, empty without one. Never throws.
+    std::string recover_all() noexcept;
+
     Session& session_;
     std::function<void(int)> end_;
     bool in_event_loop_ = false;

@@ -1,27 +1,28 @@
 #include "shell/mdi_form1.h"
 
 #include "base/captions.h"
-#include "base/files.h"
 #include "base/qt_text.h"
+#include "base/shown_text.h"
 #include "base/stored_path.h"
-#include "data/run_time_error.h"
 #include "editor/panneau.h"
-#include "gfx/load_gfx_fichier.h"
+#include "shell/elided_label.h"
 #include "shell/menus.h"
+#include "shell/notice.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QStatusBar>
 
 #include <array>
+#include <stdexcept>
 
 namespace shell {
 
@@ -34,53 +35,16 @@ constexpr std::array position_items = {"ville_menu", "armées_menu", "manuf_menu
 
 } // namespace
 
-MDIForm1::MDIForm1(Session& session) : session_(session) {
+MDIForm1::MDIForm1(Session& session, Run run) : session_(session) {
     setObjectName(QStringLiteral("MDIForm1"));
     setWindowTitle(QApplication::applicationDisplayName());
     resize(first_size);
-    start_up();
-}
-
-void MDIForm1::start_up() {
-    read_configuration_file();
-    read_language_file();
     build_menus();
     fill_language_menu();
     build_workspace();
     build_status_bar();
-    enable_map_items(false);
-    action("carte_2")->setEnabled(false);
-    for (const auto* name : position_items)
-        action(name)->setEnabled(!is_first_run_);
-    check_mode();
+    set_up_items(run);
     show_status_text(map::info(session_.mode).status_text);
-    options();
-}
-
-void MDIForm1::read_configuration_file() {
-    const std::string path = base::in_folder(session_.program_folder, configuration_file);
-    is_first_run_ = !QFileInfo(base::native_path(path)).isFile();
-    if (is_first_run_)
-        return;
-    try {
-        read_configuration(base::read_file(path), session_.configuration,
-                           [this](const gfx::GraphicsFile& file) {
-                               gfx::load_gfx_fichier(session_, file.kind, file.path, file.set_name);
-                           });
-    } catch (const data::RunTimeError& error) {
-        throw error.within(base::shown_path(path));
-    }
-}
-
-void MDIForm1::read_language_file() {
-    const std::string path =
-        base::in_folder(session_.program_folder, session_.configuration.language_file);
-    const std::string bytes = base::read_file(path);
-    try {
-        session_.language = LanguageTexts(bytes);
-    } catch (const data::RunTimeError& error) {
-        throw error.within(base::shown_path(path));
-    }
 }
 
 void MDIForm1::build_menus() {
@@ -104,6 +68,7 @@ void MDIForm1::build_menus() {
             made = menu->menuAction();
         }
         made->setObjectName(name);
+        actions_.emplace(item.name, made);
         made->setData(caption); // an item whose caption changes finds it here again
         made->setShortcut(QKeySequence(base::from_utf8(item.shortcut)));
         made->setCheckable(item.checkable);
@@ -154,28 +119,52 @@ void MDIForm1::build_workspace() {
     row->addWidget(panel_);
     setCentralWidget(middle);
     connect(panel_, &editor::Panneau::selection_entered, this, [this] { apply_selection(); });
+    connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+L")), this), &QShortcut::activated,
+            this, &MDIForm1::focus_selection_text);
 }
 
 void MDIForm1::build_status_bar() {
     statusBar()->setObjectName(QStringLiteral("Bar"));
-    mode_text_ = new QLabel(statusBar());
+    mode_text_ = new ElidedLabel(statusBar());
     mode_text_->setObjectName(QStringLiteral("Bar(1)"));
+    notice_ = new Notice(statusBar());
     pointer_text_ = new QLabel(statusBar());
     pointer_text_->setObjectName(QStringLiteral("Bar(2)"));
-    statusBar()->addWidget(mode_text_, 1);
+    // A permanent widget is never covered; the notice takes the room that the others leave.
+    statusBar()->addPermanentWidget(mode_text_);
+    statusBar()->addPermanentWidget(notice_, 1);
     statusBar()->addPermanentWidget(pointer_text_);
     pointer_text_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("id = 00000")));
 }
 
+void MDIForm1::set_up_items(Run run) {
+    enable_map_items(false);
+    action("carte_2")->setEnabled(false);
+    for (const auto* name : position_items)
+        action(name)->setEnabled(run == Run::later);
+    check_mode();
+    options();
+}
+
 QAction* MDIForm1::action(std::string_view name) const {
-    auto* found = findChild<QAction*>(base::from_utf8(name));
-    Q_ASSERT_X(found, "menu", std::string(name).c_str());
-    return found;
+    const auto found = actions_.find(name);
+    if (found == actions_.end())
+        throw std::out_of_range("no menu item " + std::string(name));
+    return found->second;
+}
+
+void MDIForm1::focus_selection_text() {
+    if (session_.mode != map::Mode::normal)
+        enter_mode(map::Mode::normal); // the other modes hide the panel
+    panel_->focus_selection_text();
+}
+
+void MDIForm1::tell(const QString& notice) {
+    notice_->tell(notice);
 }
 
 void MDIForm1::show_status_text(int number) {
-    statusBar()->clearMessage(); // a reason from the mode before would hide the text
-    mode_text_->setText(base::to_qstring(session_.language.status(number)));
+    mode_text_->setText(base::message_text(session_.language.status(number)));
 }
 
 } // namespace shell

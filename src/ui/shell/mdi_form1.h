@@ -5,11 +5,13 @@
 #include "map/form1.h"
 #include "map/mode.h"
 #include "shell/session.h"
+#include "shell/start_up.h"
 
 #include <QMainWindow>
 #include <QPointer>
 #include <QStringList>
 
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -24,15 +26,16 @@ class Panneau;
 
 namespace shell {
 
-/// The main frame: menus, the workspace of the map window, the panel and the status bar. Its making
-/// is the program's start-up, its closing the shutdown.
+class Notice;
+
+/// The main frame: menus, the workspace of the map window, the panel and the status bar. Its
+/// closing is the program's shutdown.
 class MDIForm1 : public QMainWindow {
     Q_OBJECT
 
   public:
-    /// Reads config.txt and the language file from the program's folder. Throws a run-time error
-    /// with file and line for what cannot be read.
-    explicit MDIForm1(Session& session);
+    /// Builds the frame for a session that was started up, which told what run this is.
+    MDIForm1(Session& session, Run run);
 
     // The commands of the menus.
     void ouvrir_cartes();
@@ -50,7 +53,8 @@ class MDIForm1 : public QMainWindow {
     void propos();
 
     // What the commands do once their dialogs are confirmed.
-    data::ReadReport open_province_file();
+    /// Reads the province file with the stored path, and remembers it where config.txt can.
+    data::ReadReport open_province_file(const std::string& path);
     void open_maps();
     /// Selects what the text names, as if it had been typed and entered.
     void select(const std::string& text);
@@ -58,25 +62,29 @@ class MDIForm1 : public QMainWindow {
     /// Writes a text that was typed and not yet left, as far as it may stand, without a word.
     void keep_typed_text();
 
+    /// Shows what happened in the status bar for a while.
+    void tell(const QString& notice);
+
   protected:
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void start_up();
-    void read_configuration_file();
-    void read_language_file();
     void build_menus();
     void fill_language_menu();
     void build_workspace();
     void build_status_bar();
+    void set_up_items(Run run);
 
     /// Sets up the graphics menu and enables what the loaded graphics allow.
     void options();
     /// Brings the menu and the map up to other graphics, or another choice among them.
     void show_graphics();
 
+    /// Returns a menu or an item by its name in the menus' table. Throws std::out_of_range for a
+    /// name that the table does not have.
     QAction* action(std::string_view name) const;
+    void focus_selection_text();
     void apply_selection();
     void show_status_text(int number);
     void check_mode();
@@ -89,15 +97,16 @@ class MDIForm1 : public QMainWindow {
     void fit_map_window();
 
     Session& session_;
-    QStringList languages_; // file names without ".lng", in the menu's order
+    std::map<std::string_view, QAction*> actions_; // by their names in the menus' table
+    QStringList languages_;                        // file names without ".lng", in the menu's order
     editor::Panneau* panel_ = nullptr;
     QMdiArea* workspace_ = nullptr;
     QPointer<QMdiSubWindow> map_frame_;
     QPointer<map::Form1> map_;
     QRect fitted_; // where the map window was put last; its frame's place in the workspace
     QLabel* mode_text_ = nullptr;
+    Notice* notice_ = nullptr;
     QLabel* pointer_text_ = nullptr;
-    bool is_first_run_ = false;
 };
 
 } // namespace shell

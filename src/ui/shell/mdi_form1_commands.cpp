@@ -1,6 +1,7 @@
 #include "base/files.h"
 #include "base/messages.h"
 #include "base/qt_text.h"
+#include "base/shown_text.h"
 #include "base/stored_path.h"
 #include "data/province_file.h"
 #include "data/run_time_error.h"
@@ -42,7 +43,7 @@ std::string item_name(std::string_view items, int number) {
 }
 
 QString escaped(const std::string& set_name) {
-    return base::to_qstring(set_name).replace(QLatin1Char('&'), QStringLiteral("&&"));
+    return base::caption_text(set_name).replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 
 } // namespace
@@ -61,11 +62,12 @@ void MDIForm1::ouvrir_csv() {
     session_.chooser_kind = gfx::ChooserKind::CSV;
     gfx::Form4(session_, this).exec();
     if (session_.cancelled_flag == 0)
-        open_province_file();
+        open_province_file(session_.configuration.province_file_path);
 }
 
-data::ReadReport MDIForm1::open_province_file() {
-    const auto& path = session_.configuration.province_file_path;
+data::ReadReport MDIForm1::open_province_file(const std::string& path) {
+    if (base::is_storable_text(base::path_text(path)))
+        session_.configuration.province_file_path = path;
     const std::string bytes = base::read_file(path);
     panel_->forget_shown();
     try {
@@ -198,7 +200,7 @@ void MDIForm1::closeEvent(QCloseEvent* event) {
     base::replace_file(base::in_folder(session_.program_folder, configuration_file),
                        write_configuration(session_.configuration, session_.graphics.files));
     if (const std::string notice = write_recovery_copy(session_); !notice.empty())
-        std::cerr << base::to_utf8(notice) << std::endl;
+        std::cerr << base::message_text(notice).toStdString() << std::endl;
     event->accept();
 }
 

@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QStatusBar>
 
 #include <array>
 #include <memory>
@@ -17,8 +16,6 @@
 namespace shell {
 
 namespace {
-
-constexpr int problem_time = 15000; // milliseconds that a reason stays in the status bar
 
 struct MapItem {
     std::string_view name;
@@ -65,8 +62,7 @@ void MDIForm1::make_map_window() {
         const std::string present = add ? panel_->selection_text() : std::string();
         select(editor::with_province(present, province));
     });
-    connect(map_, &map::Form1::problem, this,
-            [this](const QString& reason) { statusBar()->showMessage(reason, problem_time); });
+    connect(map_, &map::Form1::problem, this, &MDIForm1::tell);
     action("carte_2")->setEnabled(map_->has_map_2());
     check_map(map::ShownMap::map_1);
     map_frame_->show();

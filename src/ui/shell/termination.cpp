@@ -6,6 +6,8 @@
 
 #include <QSocketNotifier>
 
+#include <array>
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
@@ -16,6 +18,7 @@ namespace shell {
 namespace {
 
 constexpr int signal_status = 128; // what a shell adds to a signal's number
+constexpr std::array ends_of_the_program = {SIGTERM, SIGINT, SIGHUP, SIGQUIT};
 
 // What a signal handler and an exit handler can reach: the writing end of a pipe, and a function.
 int pipe_end = -1;
@@ -25,9 +28,11 @@ std::function<void()>& at_exit() {
 }
 
 extern "C" void forward_signal(int number) {
+    const int error_before = errno; // belongs to what the signal interrupted
     const auto byte = static_cast<unsigned char>(number);
     // Nothing is left to do where even this fails.
     [[maybe_unused]] const auto written = ::write(pipe_end, &byte, 1);
+    errno = error_before;
 }
 
 } // namespace
@@ -49,14 +54,24 @@ Termination::Termination(std::function<void(int)> requested, std::function<void(
                 if (::read(end, &number, 1) == 1)
                     requested(signal_status + number);
             });
-    for (const int number : {SIGTERM, SIGINT, SIGHUP})
+    for (const int number : ends_of_the_program) {
+        // Who started the program may want it to outlive a signal, as nohup does.
+        struct sigaction before = {};
+        if (::sigaction(number, nullptr, &before) == 0 && before.sa_handler == SIG_IGN)
+            continue;
         std::signal(number, forward_signal);
+        taken_.push_back(number);
+    }
 }
 
 Termination::~Termination() {
-    for (const int number : {SIGTERM, SIGINT, SIGHUP})
+    for (const int number : taken_)
         std::signal(number, SIG_DFL); // nobody reads the pipe any more
     at_exit() = nullptr;
+}
+
+void ignore_closed_pipes() {
+    std::signal(SIGPIPE, SIG_IGN);
 }
 
 } // namespace shell
@@ -66,6 +81,7 @@ Termination::~Termination() {
 namespace shell {
 Termination::Termination(std::function<void(int)>, std::function<void()>) {}
 Termination::~Termination() = default;
+void ignore_closed_pipes() {}
 } // namespace shell
 
 #endif

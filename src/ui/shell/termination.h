@@ -3,6 +3,7 @@
 #include <QObject>
 
 #include <functional>
+#include <vector>
 
 namespace shell {
 
@@ -11,11 +12,18 @@ namespace shell {
 class Termination : public QObject {
   public:
     /// `requested` is called on the user-interface thread when the system asks the program to end
-    /// (SIGTERM, SIGINT, SIGHUP), with the exit status that tells of the signal. `dropped` is
+    /// (SIGTERM, SIGINT, SIGHUP, SIGQUIT; not one that was ignored when
+    /// the program was started), with the exit status that tells of the signal. `dropped` is
     /// called when a library ends the process under the program, as happens when the display is
     /// gone.
     Termination(std::function<void(int)> requested, std::function<void()> dropped);
     ~Termination() override;
+
+  private:
+    std::vector<int> taken_; // signals
 };
+
+/// Lets a write to a pipe that nobody reads any more fail instead of ending the program.
+void ignore_closed_pipes();
 
 } // namespace shell

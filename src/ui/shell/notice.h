@@ -1,0 +1,21 @@
+#pragma once
+
+#include "shell/elided_label.h"
+
+#include <QTimer>
+
+namespace shell {
+
+/// The part of the status bar that tells of what just happened, for a while.
+class Notice : public ElidedLabel {
+  public:
+    explicit Notice(QWidget* parent);
+
+    /// Shows the text for 15 seconds, in the place of the one before.
+    void tell(const QString& text);
+
+  private:
+    QTimer time_;
+};
+
+} // namespace shell
