@@ -42,7 +42,8 @@ bool has_display() {
 
 /// Tells on standard error how much of the province file was understood, and why nothing was.
 void tell_what_was_read(const std::string& path, const data::ReadReport& read) {
-    std::cerr << base::message_text(base::shown_path(path)).toStdString() << ": provinces read: " << read.provinces;
+    std::cerr << base::message_text(base::shown_path(path)).toStdString()
+              << ": provinces read: " << read.provinces;
     if (read.provinces == 0 && read.lines == 0)
         std::cerr << ": the file is empty";
     else if (read.provinces == 0 && !read.has_carriage_return)
@@ -81,7 +82,8 @@ void show_window(QWidget& frame) {
         frame.showMaximized();
 }
 
-int run_program(shell::Application& application, shell::Session& session, const shell::CommandLine& line) {
+int run_program(shell::Application& application, shell::Session& session,
+                const shell::CommandLine& line) {
     session.program_folder =
         line.folder.value_or(base::stored_path(QApplication::applicationDirPath()));
     session.unattended = line.screenshot.has_value();

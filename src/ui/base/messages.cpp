@@ -13,7 +13,8 @@ namespace {
 
 int show_box(QWidget* owner, const char* name, QMessageBox::Icon icon, const std::string& text,
              QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset) {
-    QMessageBox box(icon, QApplication::applicationDisplayName(), message_text(text), buttons, owner);
+    QMessageBox box(icon, QApplication::applicationDisplayName(), message_text(text), buttons,
+                    owner);
     box.setObjectName(QString::fromLatin1(name));
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(preset);

@@ -34,7 +34,7 @@ ErrorNumber number_of(const std::error_code& error) {
 
 [[noreturn]] void throw_error(const QString& path, const std::error_code& error) {
     throw data::RunTimeError(number_of(error), path_bytes(QDir::toNativeSeparators(path) + ": " +
-                                                        QString::fromLocal8Bit(error.message())));
+                                                          QString::fromLocal8Bit(error.message())));
 }
 
 std::filesystem::path system_path(const QString& path) {

@@ -236,7 +236,8 @@ Panneau::Show Panneau::bind_list(const Field& field) {
         list->addItem(base::caption_text(text), to_qstring(text));
     }
     connect(list, &QComboBox::activated, this, [this, list, entries, items, &field] {
-        write(shell::code_of_text(entries, items, to_bytes(list->currentData().toString())), field.number);
+        write(shell::code_of_text(entries, items, to_bytes(list->currentData().toString())),
+              field.number);
         if (!anything_selected())
             list->setCurrentIndex(-1);
     });
