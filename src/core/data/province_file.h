@@ -14,10 +14,14 @@ struct ReadReport {
     bool has_carriage_return = false;
 };
 
+/// What becomes of a province line with too few fields.
+enum class BadLine { ends_reading, is_passed_over };
+
 /// Reads the province file's bytes into the table; rows that the file lacks stay as they were.
-/// Throws invalid procedure call for a province line with too few fields, with line, province and
-/// column in its place; what was read before it stays in the table.
-ReadReport read_provinces(std::string_view bytes, ProvinceTable& table);
+/// Throws invalid procedure call for a line that ends the reading, with line, province and column
+/// in its place; what was read before it stays in the table, and so do a bad line's own fields.
+ReadReport read_provinces(std::string_view bytes, ProvinceTable& table,
+                          BadLine bad_line = BadLine::ends_reading);
 
 /// Returns the whole table as a province file of 2021 lines.
 std::string write_provinces(const ProvinceTable& table);
