@@ -6,7 +6,10 @@
 #include "map/stored_positions.h"
 #include "sample.h"
 #include "shell/configuration.h"
+#include "shell/file_check.h"
 #include "shell/language.h"
+#include "shell/place_check.h"
+#include "shell/value_check.h"
 #include "support/folder.h"
 #include "text_files.h"
 
@@ -128,6 +131,26 @@ TEST_F(SampleWorld, ValuesAgreeWithEachOther) {
         EXPECT_FALSE(cell(provinces_, province, 15) == "1" &&
                      cell(provinces_, province, 16) == "1");
     }
+}
+
+TEST_F(SampleWorld, HasNoProblem) {
+    const shell::LanguageTexts language(sample::read_file(language_file()));
+    const auto file = shell::check_file(sample::read_file(folder() / "Province.csv"));
+    map::ProvinceIndex index;
+    for (int y = 0; y < id_map_.height(); ++y) {
+        std::vector<map::Pixel> row;
+        for (int x = 0; x < id_map_.width(); ++x)
+            row.push_back(id_map_.pixel(x, y));
+        index.add_row(y, row);
+    }
+    const map::Maps maps;
+    const shell::IdMap id_map{id_map_.width(), id_map_.height(), maps, index, province_at};
+    auto problems = file.problems;
+    for (const auto& found : {check_values(provinces_, language, file.lines),
+                              check_places(provinces_, language, id_map, file.lines)})
+        problems.insert(problems.end(), found.begin(), found.end());
+    for (const auto& problem : problems)
+        ADD_FAILURE() << printed_line(problem, "Province.csv", language);
 }
 
 TEST_F(SampleWorld, UsesEveryCodeOfTheLanguageFile) {

@@ -2,6 +2,7 @@
 
 #include "data/run_time_error.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -31,6 +32,41 @@ double leading_number(std::string_view text) {
         number = large ? std::numeric_limits<double>::infinity() : 0;
     }
     return negative ? -number : number;
+}
+
+namespace {
+
+/// Takes the digits that the text begins with and returns how many they are.
+std::size_t take_digits(std::string_view& text) {
+    const auto digits = std::min(text.find_first_not_of("0123456789"), text.size());
+    text.remove_prefix(digits);
+    return digits;
+}
+
+/// Returns the text without its sign and without the blanks around it.
+std::string_view unsigned_part(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
+    text = text.substr(0, text.find_last_not_of(" \t") + 1);
+    if (text.starts_with('-') || text.starts_with('+'))
+        text.remove_prefix(1);
+    return text;
+}
+
+} // namespace
+
+bool is_number(std::string_view text) {
+    text = unsigned_part(text);
+    auto digits = take_digits(text);
+    if (text.starts_with('.')) {
+        text.remove_prefix(1);
+        digits += take_digits(text);
+    }
+    return digits > 0 && text.empty();
+}
+
+bool is_whole_number(std::string_view text) {
+    text = unsigned_part(text);
+    return take_digits(text) > 0 && text.empty();
 }
 
 double round_half_even(double number) {

@@ -10,6 +10,12 @@ namespace data {
 /// skipped, "." separates the decimals, reading stops at the first other character. 0 without one.
 double leading_number(std::string_view text);
 
+/// Returns whether the whole text is a decimal number, blanks around it aside.
+bool is_number(std::string_view text);
+
+/// Returns whether the whole text is a whole number, blanks around it aside.
+bool is_whole_number(std::string_view text);
+
 /// Returns the number rounded to a whole one, halves to the even neighbour.
 double round_half_even(double number);
 

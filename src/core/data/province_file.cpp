@@ -1,6 +1,7 @@
 #include "data/province_file.h"
 
 #include "data/numbers.h"
+#include "data/province_format.h"
 #include "data/run_time_error.h"
 
 #include <array>
@@ -11,28 +12,7 @@ namespace data {
 
 namespace {
 
-constexpr char separator = ';';
-constexpr std::string_view line_end = "\r\n";
 constexpr std::string_view unread_columns = ";0;0";
-
-constexpr std::string_view terra_incognita =
-    "0;Terra Incognita;inland;exotic;none;0;0;0;0;0;0;0;0;8;0;0;0;0;0;nothing;0;-3;0;0;0;0;0;0;"
-    "9472;3647;5740;4104;0;0;9472;3647;0;-100;-100;0;-100;-100;0;-100;-100;0;-100;-100;0;-;-;-;"
-    "#N/A;0;0;0;#N/A;-1;-1";
-constexpr std::string_view filler =
-    "-1;Filler;inland;exotic;none;-1;-1;-1;-1;-1;0;-1;-1;9;0;0;0;0;-1;nothing;0;-1;-1;-1;-1;"
-    "-1;-1;-1;-1;-1;-1;-1;-1;-1;-1;-1;0;0;0;0;0;0;0;0;0;0;0;0;0;;;;#N/A;0;0;0;0;0;0";
-
-/// Takes the next line from the bytes. A line ends at a carriage return only; the line feed behind
-/// it belongs to the line end.
-std::string_view take_line(std::string_view& bytes) {
-    const auto end = bytes.find('\r');
-    const auto line = bytes.substr(0, end);
-    bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
-    if (bytes.starts_with('\n'))
-        bytes.remove_prefix(1);
-    return line;
-}
 
 [[noreturn]] void throw_too_few_fields(int line, int province, TableColumn column) {
     const FileColumn missing = file_column(column);
@@ -45,8 +25,12 @@ std::string_view take_line(std::string_view& bytes) {
 }
 
 /// Fills one row from the line's fields behind its identifier.
-void read_fields(std::string_view fields, int province, int line_number, ProvinceTable& table,
+void read_fields(std::string_view line, int province, int line_number, ProvinceTable& table,
                  Source source) {
+    const auto first = line.find(separator);
+    if (first == std::string_view::npos)
+        throw_too_few_fields(line_number, province, TableColumn{0});
+    auto fields = line.substr(first + 1);
     for (TableColumn column{0}; column.index < first_unread.index; ++column.index) {
         const auto end = fields.find(separator);
         if (end == std::string_view::npos)
@@ -61,7 +45,8 @@ void read_fields(std::string_view fields, int province, int line_number, Provinc
 
 } // namespace
 
-ReadReport read_provinces(std::string_view bytes, ProvinceTable& table, Source source) {
+ReadReport read_provinces(std::string_view bytes, ProvinceTable& table, Source source,
+                          BadLine bad_line) {
     ReadReport report;
     report.has_carriage_return = bytes.find('\r') != std::string_view::npos;
     while (!bytes.empty()) {
@@ -71,10 +56,13 @@ ReadReport read_provinces(std::string_view bytes, ProvinceTable& table, Source s
         if (!(identifier >= 1 && identifier <= last_province))
             continue;
         const int province = static_cast<int>(round_half_even(identifier));
-        const auto first = line.find(separator);
-        if (first == std::string_view::npos)
-            throw_too_few_fields(report.lines, province, TableColumn{0});
-        read_fields(line.substr(first + 1), province, report.lines, table, source);
+        try {
+            read_fields(line, province, report.lines, table, source);
+        } catch (const RunTimeError&) {
+            if (bad_line == BadLine::ends_reading)
+                throw;
+            continue;
+        }
         ++report.provinces;
     }
     return report;
@@ -83,12 +71,8 @@ ReadReport read_provinces(std::string_view bytes, ProvinceTable& table, Source s
 std::string write_provinces(const ProvinceTable& table) {
     std::string bytes;
     bytes.reserve(std::size_t{1} << 20U);
-    for (int column = 1; column <= file_columns; ++column) {
-        if (column > 1)
-            bytes += separator;
-        bytes += header(FileColumn{column});
-    }
-    bytes.append(line_end).append(terra_incognita).append(line_end);
+    bytes.append(header_line()).append(line_end);
+    bytes.append(terra_incognita.line).append(line_end);
 
     std::array<std::span<const std::string>, first_unwritten.index> columns;
     for (TableColumn column{0}; column.index < first_unwritten.index; ++column.index)
@@ -104,7 +88,7 @@ std::string write_provinces(const ProvinceTable& table) {
         }
         bytes.append(unread_columns).append(line_end);
     }
-    return bytes.append(filler).append(line_end);
+    return bytes.append(filler.line).append(line_end);
 }
 
 } // namespace data

@@ -18,11 +18,14 @@ struct ReadReport {
 /// whose values are changes that no file has yet.
 enum class Source { file, copy };
 
+/// What becomes of a province line with too few fields.
+enum class BadLine { ends_reading, is_passed_over };
+
 /// Reads the province file's bytes into the table; rows that the file lacks stay as they were.
-/// Throws invalid procedure call for a province line with too few fields, with line, province and
-/// column in its place; what was read before it stays in the table.
+/// Throws invalid procedure call for a line that ends the reading, with line, province and column
+/// in its place; what was read before it stays in the table, and so do a bad line's own fields.
 ReadReport read_provinces(std::string_view bytes, ProvinceTable& table,
-                          Source source = Source::file);
+                          Source source = Source::file, BadLine bad_line = BadLine::ends_reading);
 
 /// Returns the whole table as a province file of 2021 lines.
 std::string write_provinces(const ProvinceTable& table);

@@ -1,0 +1,62 @@
+#include "map/province_index.h"
+
+#include "map/identification.h"
+
+#include <algorithm>
+
+namespace map {
+
+namespace {
+
+/// Returns where the run of equal pixels that begins at `begin` ends. Whole blocks are compared at
+/// once: the map has a hundred million pixels, and nearly all are like the one before.
+std::size_t end_of_run(std::span<const Pixel> pixels, std::size_t begin) {
+    constexpr std::size_t block = 16;
+    const Pixel colour = pixels[begin];
+    std::size_t end = begin + 1;
+    for (; end + block <= pixels.size(); end += block) {
+        Pixel differing = 0;
+        for (std::size_t at = 0; at < block; ++at)
+            differing |= pixels[end + at] ^ colour;
+        if (differing != 0)
+            break;
+    }
+    while (end < pixels.size() && pixels[end] == colour)
+        ++end;
+    return end;
+}
+
+} // namespace
+
+void ProvinceIndex::add_row(int y, std::span<const Pixel> pixels) {
+    for (std::size_t begin = 0; begin < pixels.size();) {
+        const std::size_t end = end_of_run(pixels, begin);
+        if (pixels[begin] != no_pixel)
+            add_run(province_of(pixels[begin]), y, static_cast<int>(begin), static_cast<int>(end));
+        begin = end;
+    }
+}
+
+void ProvinceIndex::add_run(int identifier, int y, int first_x, int end_x) {
+    ProvincePlace& place = places_[static_cast<std::size_t>(identifier)];
+    if (place.pixels == 0)
+        place = {first_x, y, first_x, y, first_x, y, 0, 0};
+    const int length = end_x - first_x;
+    place.left = std::min(place.left, first_x);
+    place.top = std::min(place.top, y);
+    place.right = std::max(place.right, end_x - 1);
+    place.bottom = std::max(place.bottom, y);
+    if (length > place.longest_row) {
+        place.inner_x = first_x + length / 2;
+        place.inner_y = y;
+        place.longest_row = length;
+    }
+    place.pixels += static_cast<std::uint32_t>(length);
+}
+
+const ProvincePlace* ProvinceIndex::place(int identifier) const {
+    const auto& place = places_.at(static_cast<std::size_t>(identifier));
+    return place.pixels > 0 ? &place : nullptr;
+}
+
+} // namespace map

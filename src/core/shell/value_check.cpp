@@ -1,0 +1,214 @@
+#include "shell/value_check.h"
+
+#include "data/numbers.h"
+#include "data/text.h"
+#include "editor/fields.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+
+namespace shell {
+
+namespace {
+
+namespace column = data::column;
+using data::FileColumn;
+
+/// What a column's cells must be.
+enum class Form {
+    code, // of the value list of the column's field
+    flag, // 0 or 1
+    number,
+    scale, // a number from 0 to the rule's highest
+    coast, // coastal or inland
+};
+
+struct Rule {
+    FileColumn column;
+    Form form;
+    double highest = 0;
+};
+
+constexpr std::array rules = {
+    Rule{column::coast, Form::coast},
+    Rule{column::religion, Form::code},
+    Rule{column::culture, Form::code},
+    Rule{column::size_modifier, Form::number},
+    Rule{column::pashas, Form::number},
+    Rule{column::climate, Form::code},
+    Rule{column::ice, Form::flag},
+    Rule{column::storm, Form::flag},
+    Rule{column::galleys, Form::flag},
+    Rule{column::manpower, Form::number},
+    Rule{column::income, Form::number},
+    Rule{column::terrain, Form::code},
+    Rule{column::treaty_spain, Form::flag},
+    Rule{column::treaty_portugal, Form::flag},
+    Rule{column::empire, Form::code},
+    Rule{column::mine_flag, Form::flag},
+    Rule{column::mine_value, Form::number},
+    Rule{column::goods, Form::code},
+    Rule{column::upgradable, Form::flag},
+    Rule{column::trade_centre, Form::code},
+    Rule{column::colony_difficulty, Form::code},
+    Rule{column::native_strength, Form::number},
+    Rule{column::ferocity, Form::scale, 5},
+    Rule{column::efficiency, Form::scale, 2},
+    Rule{column::trade_difficulty, Form::code},
+    Rule{column::tolerance, Form::code},
+    Rule{column::city_x, Form::number},
+    Rule{column::city_y, Form::number},
+    Rule{column::army_x, Form::number},
+    Rule{column::army_y, Form::number},
+    Rule{column::port_x, Form::number},
+    Rule{column::port_y, Form::number},
+    Rule{column::manufactory_x, Form::number},
+    Rule{column::manufactory_y, Form::number},
+    Rule{column::port_sea, Form::number},
+    Rule{column::drawing_x[0], Form::number},
+    Rule{column::drawing_y[0], Form::number},
+    Rule{column::drawing_variant[0], Form::number},
+    Rule{column::drawing_x[1], Form::number},
+    Rule{column::drawing_y[1], Form::number},
+    Rule{column::drawing_variant[1], Form::number},
+    Rule{column::drawing_x[2], Form::number},
+    Rule{column::drawing_y[2], Form::number},
+    Rule{column::drawing_variant[2], Form::number},
+    Rule{column::drawing_x[3], Form::number},
+    Rule{column::drawing_y[3], Form::number},
+    Rule{column::drawing_variant[3], Form::number},
+    Rule{column::area, Form::code},
+    Rule{column::region, Form::code},
+    Rule{column::continent, Form::code},
+    Rule{column::rivers[0], Form::number},
+    Rule{column::rivers[1], Form::number},
+    Rule{column::rivers[2], Form::number},
+};
+
+class ValueChecker {
+  public:
+    ValueChecker(const data::ProvinceTable& table, const LanguageTexts& language,
+                 const ProvinceLines& lines)
+        : table_(table), language_(language), lines_(lines) {}
+
+    std::vector<Problem> run() {
+        for (const Rule& rule : rules)
+            check(rule);
+        check_mines();
+        check_lines();
+        std::stable_sort(
+            problems_.begin(), problems_.end(), [](const Problem& left, const Problem& right) {
+                return left.province != right.province ? left.province < right.province
+                                                       : left.column->number < right.column->number;
+            });
+        return std::move(problems_);
+    }
+
+  private:
+    using Verdict = std::optional<Text>;
+
+    std::span<const std::string> cells(FileColumn column) const {
+        return table_.column(data::table_column(column));
+    }
+
+    void add(Text what, std::size_t row, FileColumn column, std::string detail = {}) {
+        problems_.push_back({.what = what,
+                             .line = lines_.at(row),
+                             .province = static_cast<int>(row),
+                             .column = column,
+                             .value = cells(column)[row],
+                             .detail = std::move(detail),
+                             .is_hint = what == Text::problem_coast});
+    }
+
+    void check(const Rule& rule) {
+        const auto column = cells(rule.column);
+        // Most provinces hold what another one held before.
+        std::unordered_map<std::string_view, Verdict> verdicts;
+        for (std::size_t row = 1; row < column.size(); ++row) {
+            if (is_blank(column[row]))
+                continue;
+            const auto [found, is_new] = verdicts.try_emplace(column[row]);
+            if (is_new)
+                found->second = verdict(rule, column[row]);
+            if (found->second)
+                add(*found->second, row, rule.column, data::to_text(rule.highest));
+        }
+    }
+
+    Verdict verdict(const Rule& rule, std::string_view cell) const {
+        const auto unless = [](bool is_right, Text what) {
+            return is_right ? Verdict() : Verdict(what);
+        };
+        const double number = data::leading_number(cell);
+        switch (rule.form) {
+        case Form::code:
+            return unless(is_code(rule.column, cell), Text::problem_unknown_code);
+        case Form::flag:
+            return unless(data::is_number(cell) && (number == 0 || number == 1),
+                          Text::problem_no_flag);
+        case Form::coast:
+            return unless(data::equal_ignoring_case(cell, "coastal") ||
+                              data::equal_ignoring_case(cell, "inland"),
+                          Text::problem_coast);
+        case Form::number:
+        case Form::scale:
+            break;
+        }
+        if (!data::is_number(cell))
+            return Text::problem_no_number;
+        const bool fits = rule.form == Form::number || (number >= 0 && number <= rule.highest);
+        return unless(fits, Text::problem_out_of_range);
+    }
+
+    /// Returns whether the list of the column's field has the code. A language file without the
+    /// list says nothing about its codes.
+    bool is_code(FileColumn column, std::string_view cell) const {
+        const auto list = language_.list(editor::fields[data::field_number(column)].list_prefix);
+        return list.empty() || index_of_code(list, cell) >= 0;
+    }
+
+    /// The mine flag follows the goods; goods that are no code are reported by themselves.
+    void check_mines() {
+        const auto flags = cells(column::mine_flag);
+        const auto goods = cells(column::goods);
+        for (std::size_t row = 1; row < flags.size(); ++row) {
+            if (is_blank(flags[row]) || is_blank(goods[row]))
+                continue;
+            const double flag = data::leading_number(flags[row]);
+            const bool is_gold = data::equal_ignoring_case(goods[row], "gold");
+            const bool differs = is_gold ? flag == 0 : flag == 1;
+            if (differs && data::is_number(flags[row]) && is_code(column::goods, goods[row]))
+                add(Text::problem_mine_flag, row, column::mine_flag, goods[row]);
+        }
+    }
+
+    /// A cell is saved as it is, so it must not hold what separates cells and lines.
+    void check_lines() {
+        for (data::TableColumn index{0}; index.index < data::first_unwritten.index; ++index.index) {
+            const auto column = table_.column(index);
+            for (std::size_t row = 1; row < column.size(); ++row) {
+                if (column[row].find_first_of(";\r") != std::string::npos)
+                    add(Text::problem_breaks_line, row, data::file_column(index));
+            }
+        }
+    }
+
+    const data::ProvinceTable& table_;
+    const LanguageTexts& language_;
+    const ProvinceLines& lines_;
+    std::vector<Problem> problems_;
+};
+
+} // namespace
+
+std::vector<Problem> check_values(const data::ProvinceTable& table, const LanguageTexts& language,
+                                  const ProvinceLines& lines) {
+    return ValueChecker(table, language, lines).run();
+}
+
+} // namespace shell
