@@ -61,39 +61,18 @@ void Canvas::peak(int x, int top_y, int base_y, int half_width, Colour colour) {
     }
 }
 
-void Canvas::paste(const Canvas& other, int x, int y) {
-    for (int row = 0; row < other.size().height; ++row) {
-        for (int column = 0; column < other.size().width; ++column) {
-            const Colour colour = other.at(column, row);
-            if (colour != background)
-                dot(x + column, y + row, colour);
-        }
-    }
-}
-
 Canvas Canvas::outlined(Colour colour) const {
-    Canvas result(size());
+    Canvas result = *this;
     for (int y = 0; y < size().height; ++y) {
         for (int x = 0; x < size().width; ++x) {
             const bool beside = at(x - 1, y) != background || at(x + 1, y) != background ||
                                 at(x, y - 1) != background || at(x, y + 1) != background;
-            if (beside && (x > 0 || y > 0)) // the first pixel tells what is transparent
+            const bool is_first = x == 0 && y == 0; // it tells what is transparent
+            if (beside && !is_first && at(x, y) == background)
                 result.dot(x, y, colour);
         }
     }
-    result.paste(*this, 0, 0);
     return result;
-}
-
-void Canvas::write(const std::filesystem::path& path) const {
-    BitmapWriter writer(path, size());
-    std::vector<std::uint8_t> row(writer.row_bytes());
-    for (int y = size().height - 1; y >= 0; --y) {
-        for (int x = 0; x < size().width; ++x)
-            put_pixel(&row[static_cast<std::size_t>(x) * 3], at(x, y));
-        writer.write_rows(row);
-    }
-    writer.close();
 }
 
 } // namespace sample

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bitmap_writer.h"
+#include "files.h"
 
 #include <filesystem>
 #include <vector>
@@ -29,14 +29,11 @@ class Canvas {
     /// Draws a filled triangle that stands on `base_y`, its left side lit, its right one in shade.
     void peak(int x, int top_y, int base_y, int half_width, Colour colour);
 
-    /// Copies the other picture, but for its background, with its upper left corner at (x, y).
-    void paste(const Canvas& other, int x, int y);
-
     /// Returns the picture with a dark line around all that is drawn.
     Canvas outlined(Colour colour) const;
 
-    /// Writes a 24-bit bitmap. Throws std::ios_base::failure.
-    void write(const std::filesystem::path& path) const;
+    /// Writes a 24-bit bitmap. Throws std::runtime_error.
+    void write(const std::filesystem::path& path) const { write_bitmap(path, pixels_, size()); }
 
   private:
     Colour at(int x, int y) const;

@@ -21,6 +21,12 @@ inline double distance_squared(Point a, Point b) {
     return (a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y);
 }
 
+/// Divides a line into `from` equal parts and into `to` others: returns the index of the one of the
+/// `to` parts in which the middle of part `index` of the `from` parts lies.
+inline int at_same_place(int index, int from, int to) {
+    return static_cast<int>((2LL * index + 1) * to / (2LL * from));
+}
+
 /// Values of the cells of a rectangle, row by row. A cell is named by its index in `values`.
 template <class Value>
 struct Grid {

@@ -4,18 +4,15 @@
 #include <cstdio>
 #include <exception>
 #include <optional>
-#include <string>
 #include <string_view>
 
 namespace {
 
 constexpr const char* usage =
-    "make-sample DIR [--size WIDTHxHEIGHT] [--language FILE]\n"
-    "Writes a sample world into the folder DIR: maps, Province.csv, sprites, terrain art,\n"
-    "language files, and config.txt where there is none yet.\n"
-    "  --size WIDTHxHEIGHT  pixels of the maps, 2400x1200 if not given; at least 400x200\n"
-    "  --language FILE      language file whose codes the provinces use, english.lng beside\n"
-    "                       this program if not given\n";
+    "make-sample DIR [--size WIDTHxHEIGHT]\n"
+    "Writes a sample world into the folder DIR: maps, Province.csv, sprites, terrain art, the\n"
+    "language files beside this program, and config.txt where there is none yet.\n"
+    "  --size WIDTHxHEIGHT  pixels of the maps, 2400x1200 if not given; at least 400x200\n";
 
 constexpr int least_width = 400;
 constexpr int least_height = 200;
@@ -39,23 +36,19 @@ std::optional<sample::Size> to_size(std::string_view text) {
 /// Returns what the command line asks for; nothing when it is wrong.
 std::optional<sample::Request> to_request(int argc, char** argv) {
     sample::Request request;
-    request.language = std::filesystem::path(argv[0]).parent_path() / "english.lng";
+    request.languages = std::filesystem::absolute(argv[0]).parent_path();
     for (int index = 1; index < argc; ++index) {
-        const std::string_view option = argv[index];
-        if (!option.starts_with("--")) {
-            if (!request.folder.empty())
+        const std::string_view argument = argv[index];
+        if (argument == "--size" && index + 1 < argc) {
+            const auto size = to_size(argv[++index]);
+            if (!size)
                 return std::nullopt;
-            request.folder = option;
-            continue;
-        }
-        const char* value = ++index < argc ? argv[index] : "";
-        const auto size = to_size(value);
-        if (option == "--language" && *value != '\0')
-            request.language = value;
-        else if (option == "--size" && size)
             request.pixels = *size;
-        else
+        } else if (!argument.starts_with('-') && request.folder.empty()) {
+            request.folder = argument;
+        } else {
             return std::nullopt;
+        }
     }
     return request.folder.empty() ? std::nullopt : std::optional(request);
 }

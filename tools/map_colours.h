@@ -1,6 +1,6 @@
 #pragma once
 
-#include "bitmap_writer.h"
+#include "files.h"
 #include "world.h"
 
 #include <vector>

@@ -113,7 +113,8 @@ std::string Names::city(std::string_view speech, const std::string& province, Ra
 }
 
 std::string Names::sea(std::string_view speech, Random& random) {
-    return filled(random.pick(words(sea_patterns)), province(speech, random));
+    const std::string name = province(speech, random);
+    return filled(random.pick(words(sea_patterns)), name);
 }
 
 std::string Names::river(std::string_view speech, Random& random) {

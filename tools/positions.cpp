@@ -1,13 +1,11 @@
 #include "positions.h"
 
+#include "growth.h"
 #include "random.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <limits>
-#include <stdexcept>
-#include <string>
 
 namespace sample {
 
@@ -23,36 +21,33 @@ std::vector<std::vector<int>> cells_by_province(const World& world) {
     return cells;
 }
 
-/// Returns the pixel nearest to the cell that shows the province: bent borders may have moved it.
-Pixel own_pixel(const MapView& view, int province, int cell) {
-    constexpr int farthest = 80;
-    const Point middle = view.pixel_at(cell);
-    const int x = static_cast<int>(middle.x);
-    const int y = static_cast<int>(middle.y);
-    for (int ring = 0; ring < farthest; ++ring) {
-        for (int dy = -ring; dy <= ring; ++dy) {
-            const int step = std::abs(dy) == ring || ring == 0 ? 1 : 2 * ring;
-            for (int dx = -ring; dx <= ring; dx += step) {
-                if (x + dx >= 0 && y + dy >= 0 && x + dx < view.size().width &&
-                    y + dy < view.size().height && view.province(x + dx, y + dy) == province)
-                    return {x + dx, y + dy};
-            }
-        }
+/// Returns every cell's distance to the nearest cell of another province, in cells.
+Grid<float> distances_to_border(const Grid<std::uint16_t>& province) {
+    std::vector<int> border;
+    for (int cell = 0; cell < province.cells(); ++cell) {
+        bool other = false;
+        for_neighbours(province.size, cell,
+                       [&](int next) { other |= province[next] != province[cell]; });
+        if (other)
+            border.push_back(cell);
     }
-    throw std::invalid_argument("the map is too small: province " + std::to_string(province) +
-                                " has no pixel");
+    const Growth growth = grow(border, Grid<std::uint8_t>(province.size, 1));
+    Grid<float> distances(province.size);
+    for (int cell = 0; cell < province.cells(); ++cell)
+        distances[cell] = static_cast<float>(growth.distance[cell]) / side_step + 0.5F;
+    return distances;
 }
 
 /// Chooses cells of a province that are deep inside it and far from those chosen before.
 class Chooser {
   public:
-    Chooser(const MapView& view, const std::vector<int>& cells, Random& random) : view_(view) {
+    Chooser(const Grid<float>& to_border, const std::vector<int>& cells, Random& random)
+        : to_border_(to_border) {
         constexpr int most_candidates = 90;
         for (int candidate = 0; candidate < most_candidates; ++candidate)
             candidates_.push_back(random.pick(cells));
-        candidates_.push_back(*std::max_element(cells.begin(), cells.end(), [&](int a, int b) {
-            return view.to_border(a) < view.to_border(b);
-        }));
+        candidates_.push_back(*std::max_element(
+            cells.begin(), cells.end(), [&](int a, int b) { return to_border[a] < to_border[b]; }));
     }
 
     /// Returns the next cell.
@@ -72,26 +67,31 @@ class Chooser {
         double nearest = std::numeric_limits<double>::max();
         for (const int other : chosen_)
             nearest = std::min(nearest, distance_squared(middle(cell), middle(other)));
-        return std::min(2.2 * view_.to_border(cell), std::sqrt(nearest));
+        return std::min(2.2 * static_cast<double>(to_border_[cell]), std::sqrt(nearest));
     }
 
     Point middle(int cell) const {
-        const auto& grid = view_.world().province;
-        return {static_cast<double>(grid.column(cell)), static_cast<double>(grid.row(cell))};
+        return {static_cast<double>(to_border_.column(cell)),
+                static_cast<double>(to_border_.row(cell))};
     }
 
-    const MapView& view_;
+    const Grid<float>& to_border_;
     std::vector<int> candidates_;
     std::vector<int> chosen_;
     double room_ = 0;
 };
 
+/// Returns the pixel in the middle of those that show the cell.
+Pixel pixel_of(const World& world, Size pixels, int cell) {
+    const auto& grid = world.province;
+    return {at_same_place(grid.column(cell), grid.size.width, pixels.width),
+            at_same_place(grid.row(cell), grid.size.height, pixels.height)};
+}
+
 /// Puts the port on the coast nearest to the city; without a coast there is none.
-void place_port(const MapView& view, int province, const std::vector<int>& cells, int city,
+void place_port(const World& world, Size pixels, const std::vector<int>& cells, int city,
                 Positions& positions) {
-    const World& world = view.world();
     const Point middle = world.terrain.in_units(city);
-    int port = -1;
     double least = std::numeric_limits<double>::max();
     for (const int cell : cells) {
         const double distance = distance_squared(world.terrain.in_units(cell), middle);
@@ -100,46 +100,46 @@ void place_port(const MapView& view, int province, const std::vector<int>& cells
         for_neighbours(world.province.size, cell, [&](int next) {
             if (world.terrain.ground[next] != Ground::sea)
                 return;
-            port = cell;
             least = distance;
+            positions.port = pixel_of(world, pixels, cell);
             positions.sea = world.province[next];
         });
     }
-    if (port >= 0)
-        positions.port = own_pixel(view, province, port);
 }
 
-Positions positions_of(const MapView& view, int province, const std::vector<int>& cells) {
-    const World& world = view.world();
+Positions positions_of(const World& world, Size pixels, const Grid<float>& to_border, int province,
+                       const std::vector<int>& cells) {
     Random random(static_cast<std::uint64_t>(province));
-    Chooser chooser(view, cells, random);
+    Chooser chooser(to_border, cells, random);
+    const auto next = [&] { return pixel_of(world, pixels, chooser.next()); };
     Positions positions;
-    const int first = chooser.next();
-    const Pixel middle = own_pixel(view, province, first);
     if (world.provinces[static_cast<std::size_t>(province)].ground != Ground::land) {
-        positions.army = middle;
+        positions.army = next();
         return positions;
     }
-    positions.city = middle;
-    positions.army = own_pixel(view, province, chooser.next());
-    positions.manufactory = own_pixel(view, province, chooser.next());
-    place_port(view, province, cells, first, positions);
+    const int city = chooser.next();
+    positions.city = pixel_of(world, pixels, city);
+    positions.army = next();
+    positions.manufactory = next();
+    place_port(world, pixels, cells, city, positions);
     for (int drawing = 0; drawing < most_drawings; ++drawing) {
-        const int cell = chooser.next();
+        const Pixel pixel = next();
         if (chooser.room() * world.terrain.unit < drawings_apart)
             break;
-        positions.drawings.push_back(own_pixel(view, province, cell));
+        positions.drawings.push_back(pixel);
     }
     return positions;
 }
 
 } // namespace
 
-std::vector<Positions> make_positions(const MapView& view) {
-    const auto cells = cells_by_province(view.world());
+std::vector<Positions> make_positions(const World& world, Size pixels) {
+    const auto cells = cells_by_province(world);
+    const auto to_border = distances_to_border(world.province);
     std::vector<Positions> positions(1);
-    for (std::size_t province = 1; province < cells.size(); ++province)
-        positions.push_back(positions_of(view, static_cast<int>(province), cells[province]));
+    for (std::size_t id = 1; id < cells.size(); ++id)
+        positions.push_back(
+            positions_of(world, pixels, to_border, static_cast<int>(id), cells[id]));
     return positions;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "map_view.h"
+#include "world.h"
 
 #include <vector>
 
@@ -22,8 +22,8 @@ struct Positions {
     std::vector<Pixel> drawings;
 };
 
-/// Returns the positions of every province, by identifier: all of them for land, the army's only
-/// for seas and rivers. Throws std::invalid_argument when a province has no pixel on the map.
-std::vector<Positions> make_positions(const MapView& view);
+/// Returns the positions of every province, by identifier, on maps of that many pixels: all of them
+/// for land, the army's only for seas and rivers.
+std::vector<Positions> make_positions(const World& world, Size pixels);
 
 } // namespace sample

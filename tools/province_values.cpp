@@ -1,8 +1,8 @@
 #include "province_values.h"
 
+#include "data/columns.h"
 #include "data/numbers.h"
 #include "names.h"
-#include "province_row.h"
 #include "random.h"
 #include "regions.h"
 
@@ -15,6 +15,8 @@
 namespace sample {
 
 namespace {
+
+namespace column = data::column;
 
 enum class TerrainCode { plains, forest, mountain, desert, marsh, sea, river };
 
@@ -44,7 +46,8 @@ class Describer {
   public:
     Describer(data::ProvinceTable& table, const World& world, int id, const Positions& positions,
               Names& names)
-        : row_(table, id),
+        : table_(table),
+          id_(id),
           world_(world),
           province_(world.provinces[static_cast<std::size_t>(id)]),
           region_(regions()[province_.region]),
@@ -67,30 +70,39 @@ class Describer {
     }
 
   private:
+    void set(data::FileColumn column, std::string_view text) {
+        table_.load(id_, data::table_column(column), text);
+    }
+    void set(data::FileColumn column, int number) { set(column, std::to_string(number)); }
+    void set(data::FileColumn x, Pixel position) {
+        set(x, position.x);
+        set(data::FileColumn{x.number + 1}, position.y);
+    }
+
     void names() {
         const std::string name = is_land_ ? names_.province(region_.speech, random_)
                                  : province_.ground == Ground::sea
                                      ? names_.sea(region_.speech, random_)
                                      : names_.river(region_.speech, random_);
-        row_.set(column::name, name);
+        set(column::name, name);
         // Not every province has a city.
         const bool has_city = is_land_ && !random_.chance(is_exotic_ ? 35 : 2);
-        row_.set(column::city_name, has_city ? names_.city(region_.speech, name, random_) : "");
+        set(column::city_name, has_city ? names_.city(region_.speech, name, random_) : "");
     }
 
     void people() {
         const auto religions = words(region_.religions);
         const auto cultures = words(region_.cultures);
         const bool is_minority = religions.size() > 1 && random_.chance(18);
-        row_.set(column::religion, is_land_ ? religions[is_minority ? 1 : 0] : "exotic");
-        row_.set(column::culture,
-                 is_land_ ? cultures[static_cast<std::size_t>(province_.culture)] : "none");
-        row_.set(column::region, region_.code);
-        row_.set(column::continent, region_.continent.empty() ? "-" : region_.continent);
-        row_.set(column::area, area());
-        row_.set(column::empire, region_.in_empire && is_land_);
-        row_.set(column::pashas, is_land_ && religions[0] == "sunni" ? random_.below(4) : 0);
-        row_.set(column::manpower, is_land_ ? random_.between(1, is_exotic_ ? 3 : 12) : 0);
+        set(column::religion, is_land_ ? religions[is_minority ? 1 : 0] : "exotic");
+        set(column::culture,
+            is_land_ ? cultures[static_cast<std::size_t>(province_.culture)] : "none");
+        set(column::region, region_.code);
+        set(column::continent, region_.continent.empty() ? "-" : region_.continent);
+        set(column::area, area());
+        set(column::empire, region_.in_empire && is_land_);
+        set(column::pashas, is_land_ && religions[0] == "sunni" ? random_.below(4) : 0);
+        set(column::manpower, is_land_ ? random_.between(1, is_exotic_ ? 3 : 12) : 0);
     }
 
     std::string_view area() const {
@@ -102,19 +114,19 @@ class Describer {
 
     void ground() {
         const int cold = static_cast<int>(std::lround((1 - warm_) * 9.5 - 0.5));
-        row_.set(column::climate, std::clamp(cold, 0, 8));
-        row_.set(column::terrain, static_cast<int>(terrain_));
-        row_.set(column::size_modifier, is_land_ ? random_.between(0, 5) : 0);
-        row_.set(column::coast, is_land_ && positions_.sea != 0 ? "coastal" : "inland");
+        set(column::climate, std::clamp(cold, 0, 8));
+        set(column::terrain, static_cast<int>(terrain_));
+        set(column::size_modifier, is_land_ ? random_.between(0, 5) : 0);
+        set(column::coast, is_land_ && positions_.sea != 0 ? "coastal" : "inland");
 
         const bool is_sea = terrain_ == TerrainCode::sea;
         const auto coasts =
             std::count_if(province_.neighbours.begin(), province_.neighbours.end(), [&](int other) {
                 return world_.provinces[static_cast<std::size_t>(other)].ground == Ground::land;
             });
-        row_.set(column::ice, is_sea && warm_ < 0.25);
-        row_.set(column::storm, is_sea && random_.chance(std::abs(latitude_) > 38 ? 45 : 12));
-        row_.set(column::galleys, is_sea && coasts >= 5);
+        set(column::ice, is_sea && warm_ < 0.25);
+        set(column::storm, is_sea && random_.chance(std::abs(latitude_) > 38 ? 45 : 12));
+        set(column::galleys, is_sea && coasts >= 5);
 
         std::vector<int> rivers;
         for (const int other : province_.neighbours) {
@@ -124,16 +136,19 @@ class Describer {
         }
         rivers.resize(column::rivers.size()); // 0 is no river
         for (std::size_t link = 0; link < rivers.size(); ++link)
-            row_.set(column::rivers[link], rivers[link]);
+            set(column::rivers[link], rivers[link]);
     }
 
     void economy() {
         const std::string_view goods = is_land_ ? this->goods() : "nothing";
-        row_.set_goods(goods, random_.between(10, 80));
-        row_.set(column::income, is_land_ ? random_.between(1, is_exotic_ ? 8 : 26) : 0);
-        row_.set(column::upgradable, is_land_ && goods != "nothing" && random_.chance(40));
+        const int gold = random_.between(10, 80);
+        set(column::goods, goods);
+        set(column::mine_flag, goods == "gold");
+        set(column::mine_value, goods == "gold" ? gold : 0);
+        set(column::income, is_land_ ? random_.between(1, is_exotic_ ? 8 : 26) : 0);
+        set(column::upgradable, is_land_ && goods != "nothing" && random_.chance(40));
         const int trade = is_land_ ? std::max(-3, random_.between(-9, 5)) : -3;
-        row_.set(column::trade_centre, positions_.sea != 0 ? trade : std::min(trade, 2));
+        set(column::trade_centre, positions_.sea != 0 ? trade : std::min(trade, 2));
     }
 
     std::string_view goods() {
@@ -148,23 +163,23 @@ class Describer {
 
     void natives() {
         const bool wild = is_land_ && is_exotic_;
-        row_.set(column::colony_difficulty, wild ? random_.between(0, 9) : 0);
-        row_.set(column::trade_difficulty, wild ? random_.between(0, 9) : 0);
-        row_.set(column::native_strength, wild ? random_.between(0, 60) : 0);
-        row_.set(column::ferocity, wild ? data::to_text(random_.between(0, 20) / 4.0) : "0");
-        row_.set(column::efficiency, wild ? data::to_text(random_.between(0, 20) / 10.0) : "0");
-        row_.set(column::tolerance, wild ? random_.between(0, 9) : 0);
+        set(column::colony_difficulty, wild ? random_.between(0, 9) : 0);
+        set(column::trade_difficulty, wild ? random_.between(0, 9) : 0);
+        set(column::native_strength, wild ? random_.between(0, 60) : 0);
+        set(column::ferocity, wild ? data::to_text(random_.between(0, 20) / 4.0) : "0");
+        set(column::efficiency, wild ? data::to_text(random_.between(0, 20) / 10.0) : "0");
+        set(column::tolerance, wild ? random_.between(0, 9) : 0);
         const bool portuguese = region_.code == "brazil" || region_.continent != "america";
-        row_.set(column::treaty_spain, wild && !portuguese);
-        row_.set(column::treaty_portugal, wild && portuguese && region_.continent != "europe");
+        set(column::treaty_spain, wild && !portuguese);
+        set(column::treaty_portugal, wild && portuguese && region_.continent != "europe");
     }
 
     void places() {
-        row_.set(column::city_x, positions_.city);
-        row_.set(column::army_x, positions_.army);
-        row_.set(column::port_x, positions_.port);
-        row_.set(column::manufactory_x, positions_.manufactory);
-        row_.set(column::port_sea, positions_.sea);
+        set(column::city_x, positions_.city);
+        set(column::army_x, positions_.army);
+        set(column::port_x, positions_.port);
+        set(column::manufactory_x, positions_.manufactory);
+        set(column::port_sea, positions_.sea);
         // Open country keeps some of its room free.
         const int room = static_cast<int>(positions_.drawings.size());
         const int drawn =
@@ -172,13 +187,13 @@ class Describer {
         for (int drawing = 0; drawing < static_cast<int>(column::drawing_x.size()); ++drawing) {
             const auto index = static_cast<std::size_t>(drawing);
             const bool has = drawing < drawn;
-            row_.set(column::drawing_x[index],
-                     has ? positions_.drawings[index] : Pixel{-100, -100});
-            row_.set(column::drawing_variant[index], has ? random_.below(8) : 0);
+            set(column::drawing_x[index], has ? positions_.drawings[index] : Pixel{-100, -100});
+            set(column::drawing_variant[index], has ? random_.below(8) : 0);
         }
     }
 
-    ProvinceRow row_;
+    data::ProvinceTable& table_;
+    int id_;
     const World& world_;
     const Province& province_;
     const Region& region_;
@@ -194,13 +209,11 @@ class Describer {
 
 } // namespace
 
-data::ProvinceTable make_values(const World& world, std::span<const Positions> positions,
-                                const shell::LanguageTexts& language) {
+data::ProvinceTable make_values(const World& world, std::span<const Positions> positions) {
     data::ProvinceTable table;
     Names names;
     for (int id = 1; id <= data::last_province; ++id)
         Describer(table, world, id, positions[static_cast<std::size_t>(id)], names).describe();
-    use_every_code(table, language);
     return table;
 }
 

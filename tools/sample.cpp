@@ -1,16 +1,18 @@
 #include "sample.h"
 
 #include "data/province_file.h"
+#include "files.h"
 #include "map_writer.h"
 #include "names.h"
 #include "positions.h"
 #include "province_values.h"
 #include "shell/configuration.h"
-#include "sprite_sets.h"
+#include "sprites.h"
 #include "terrain_art.h"
-#include "text_files.h"
 
 #include <algorithm>
+#include <cmath>
+#include <stdexcept>
 #include <string>
 
 namespace sample {
@@ -18,6 +20,16 @@ namespace sample {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// Returns the grid on which the world of such maps is made: larger maps show one of this many
+/// cells enlarged.
+Size size_of_world(Size pixels) {
+    constexpr double most_cells = 2400.0 * 1200.0;
+    const double area = static_cast<double>(pixels.width) * pixels.height;
+    const double shrink = std::sqrt(std::min(1.0, most_cells / area));
+    return {static_cast<int>(std::lround(pixels.width * shrink)),
+            static_cast<int>(std::lround(pixels.height * shrink))};
+}
 
 /// Returns the form in which the editor keeps paths: drive c: is the whole file system where there
 /// are no drives.
@@ -28,8 +40,9 @@ std::string stored_path(const fs::path& path) {
     return stored.starts_with('\\') ? "c:" + stored : stored;
 }
 
-void copy_languages(const fs::path& language, const fs::path& folder) {
-    const auto from = fs::absolute(language).parent_path();
+void copy_languages(const fs::path& from, const fs::path& folder) {
+    if (!fs::exists(from / shell::Configuration().language_file))
+        throw std::runtime_error(from.string() + " holds no language files");
     if (fs::equivalent(from, folder))
         return;
     for (const auto& entry : fs::directory_iterator(from)) {
@@ -52,7 +65,6 @@ void write_new_configuration(const Request& request, std::span<const gfx::Graphi
         .province_file_path = provinces,
         .province_save_path = provinces,
         .map_bitmap_path = stored_path(request.folder / "map1.bmp"),
-        .language_file = code_page(request.language.filename().string()),
     };
     gfx::GraphicsFileList files;
     for (const auto& set : sets)
@@ -63,17 +75,15 @@ void write_new_configuration(const Request& request, std::span<const gfx::Graphi
 } // namespace
 
 void make_sample(const Request& request) {
-    const shell::LanguageTexts language(read_file(request.language));
-    const World world = make_world(world_size(request.pixels));
-    const MapView view(world, request.pixels);
-    const auto values = make_values(world, make_positions(view), language);
-
     fs::create_directories(request.folder);
+    copy_languages(request.languages, request.folder);
+
+    const World world = make_world(size_of_world(request.pixels));
+    const auto values = make_values(world, make_positions(world, request.pixels));
     write_file(request.folder / "Province.csv", data::write_provinces(values));
-    write_maps(view, request.folder);
+    write_maps(world, request.pixels, request.folder);
     write_terrain_art(request.folder / "terrain");
     const auto sets = write_sprite_sets(request.folder / "gfx");
-    copy_languages(request.language, request.folder);
     write_new_configuration(request, sets);
 }
 

@@ -33,7 +33,7 @@ std::vector<Spot> spots(int count, int apart, int back_row, Random& random) {
         if (free)
             found.push_back(spot);
     }
-    std::sort(found.begin(), found.end(), [](Spot a, Spot b) { return a.y < b.y; });
+    std::stable_sort(found.begin(), found.end(), [](Spot a, Spot b) { return a.y < b.y; });
     return found;
 }
 

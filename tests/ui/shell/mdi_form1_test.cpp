@@ -319,7 +319,7 @@ Lines fields_of(const std::string& bytes) {
 
 TEST_F(MDIForm1, OpenSelectChangeAndSave) {
     const std::filesystem::path folder_path = folder.native({}).toStdString();
-    sample::make_sample({folder_path, std::string(LANGUAGES_FOLDER) + "/english.lng", {600, 300}});
+    sample::make_sample({folder_path, LANGUAGES_FOLDER, {400, 200}});
     folder.write("config.txt", "\"CSV\"," + ('"' + folder.path("x.csv") + '"') +
                                    ",0\r\n\"CSV2\",\"" + folder.path("x.csv") + "\",0\r\n");
     start();
