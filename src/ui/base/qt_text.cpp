@@ -43,9 +43,11 @@ QString to_qstring(std::string_view bytes) {
 }
 
 std::string to_bytes(const QString& text) {
+    // A letter and its accent may come as two characters; the page has them as one only.
+    const QString composed = text.normalized(QString::NormalizationForm_C);
     std::string bytes;
-    bytes.reserve(static_cast<std::size_t>(text.size()));
-    for (const QChar character : text) {
+    bytes.reserve(static_cast<std::size_t>(composed.size()));
+    for (const QChar character : composed) {
         if (!character.isLowSurrogate()) // one "?" for a pair
             bytes += byte(character);
     }

@@ -12,7 +12,8 @@ namespace base {
 /// Returns the text of the bytes.
 QString to_qstring(std::string_view bytes);
 
-/// Returns the bytes of the text, "?" for a character outside the code page.
+/// Returns the bytes of the text, letters and their accents composed, "?" for a character outside
+/// the code page.
 std::string to_bytes(const QString& text);
 
 /// Returns the text of a literal in UTF-8, the encoding of the sources.
