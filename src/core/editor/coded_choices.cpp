@@ -66,12 +66,16 @@ bool is_checked(const Field& field, std::string_view value) {
                                            : data::leading_number(value) == 1;
 }
 
-MergedValues shown_values(const data::ProvinceTable& table, const Selection& selection) {
-    auto values = merged_values(table, selection);
-    std::string& spain = values[data::field_number(data::column::treaty_spain)];
-    if (!selection.provinces().empty())
-        spain = treaty_code(spain, values[data::field_number(data::column::treaty_portugal)]);
-    return values;
+MergedValue shown_value(const data::ProvinceTable& table, const Selection& selection,
+                        const Field& field) {
+    if (field.display != Display::treaty || selection.provinces().empty())
+        return merged_value(table, selection, field.number);
+    const auto text = [&](data::FileColumn column) {
+        return merged_value(table, selection, data::field_number(column)).text;
+    };
+    return {MergedValue::State::common,
+            std::string(treaty_code(text(data::column::treaty_spain),
+                                    text(data::column::treaty_portugal)))};
 }
 
 } // namespace editor

@@ -22,8 +22,9 @@ std::string_view value_after_press(const Field& field, bool checked);
 /// Returns whether the field's box is checked for the value.
 bool is_checked(const Field& field, std::string_view value);
 
-/// Returns the merged values as the panel shows them: field 14's is the code of the treaty option
-/// that both treaty fields together mean, empty with nothing selected.
-MergedValues shown_values(const data::ProvinceTable& table, const Selection& selection);
+/// Returns the field's merged value as the panel shows it: the treaty's is the code of the option
+/// that both treaty fields together mean.
+MergedValue shown_value(const data::ProvinceTable& table, const Selection& selection,
+                        const Field& field);
 
 } // namespace editor

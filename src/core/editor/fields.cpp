@@ -6,13 +6,14 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <stdexcept>
 
 namespace editor {
 
 namespace column = data::column;
 using data::field_number;
 
-const data::FieldArray<Field> fields = {{{
+constexpr data::FieldArray<Field> fields = {{{
     {field_number(column::name), Display::text, "nom_province", ""},
     {field_number(column::coast), Display::coast, "cote", "COTE_"},
     {field_number(column::religion), Display::group, "religion", "RELIGION_"},
@@ -74,6 +75,23 @@ const data::FieldArray<Field> fields = {{{
     {{57}, Display::nowhere, "", ""},
     {{58}, Display::nowhere, "", ""},
 }}};
+
+static_assert(
+    [] {
+        int number = 0;
+        return std::all_of(fields.begin(), fields.end(),
+                           [&](const Field& field) { return field.number.number == ++number; });
+    }(),
+    "each field stands at its number");
+
+const NumericField& numeric_field(data::FieldNumber field) {
+    const auto* found =
+        std::find_if(numeric_fields.begin(), numeric_fields.end(),
+                     [&](const NumericField& each) { return each.number == field; });
+    if (found == numeric_fields.end())
+        throw std::logic_error("field " + std::to_string(field.number) + " has no range");
+    return *found;
+}
 
 std::optional<std::string> checked_entry(const NumericField& numeric, std::string_view text) {
     const double value = data::leading_number(text);

@@ -52,6 +52,9 @@ inline constexpr std::array<NumericField, 2> numeric_fields = {{
      data::Message::efficiency_out_of_range},
 }};
 
+/// Returns the range and the slider of the field. Throws std::logic_error for a field without.
+const NumericField& numeric_field(data::FieldNumber field);
+
 /// Returns the text as it is stored (decimal point for comma); nothing when its number is outside
 /// the field's range.
 std::optional<std::string> checked_entry(const NumericField& numeric, std::string_view text);

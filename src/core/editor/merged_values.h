@@ -7,10 +7,23 @@
 
 namespace editor {
 
-using MergedValues = data::FieldArray<std::string>;
+/// What the selected provinces hold of a field together.
+struct MergedValue {
+    enum class State {
+        none,      // nothing is selected
+        differing, // they do not all hold the same text
+        common,
+    };
+    State state = State::none;
+    std::string text{}; // the common one in the spelling of the first province; else empty
 
-/// Returns each field's common value over the selected provinces, in the spelling of the first one;
-/// empty where they differ in more than letter case, and where nothing is selected.
-MergedValues merged_values(const data::ProvinceTable& table, const Selection& selection);
+    friend bool operator==(const MergedValue&, const MergedValue&) = default;
+};
+
+/// Returns the field's value over the selected provinces; texts that differ in letter case only are
+/// the same. A cell that reads "premier" or "null", in any letter case, is no text of its own: the
+/// first counts as a province that was not looked at, the second as provinces that differ.
+MergedValue merged_value(const data::ProvinceTable& table, const Selection& selection,
+                         data::FieldNumber field);
 
 } // namespace editor

@@ -4,36 +4,40 @@
 
 #include <QApplication>
 #include <QFocusEvent>
-#include <QMessageBox>
-
-#include <limits>
 
 namespace editor {
 
 namespace {
 
-/// Menus, tool tips, message boxes and other programs take the focus for a while only: the user
-/// comes back to the field as he left it.
+/// Menus, tool tips, dialogs and other programs take the focus for a while only: the user comes
+/// back to the field as he left it.
 bool leaves(const QWidget& field, Qt::FocusReason reason) {
     if (reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason)
         return false;
-    if (reason != Qt::ActiveWindowFocusReason)
-        return true;
-    const QWidget* active = QApplication::activeWindow();
-    return active && active != field.window() && active->windowType() != Qt::Popup &&
-           !qobject_cast<const QMessageBox*>(active);
+    const QWidget* next = QApplication::focusWidget();
+    return next && next != &field && next->window() == field.window();
 }
 
 } // namespace
 
-EntryField::EntryField(QWidget* parent) : QLineEdit(parent) {
-    setMaxLength(std::numeric_limits<int>::max());
+EntryField::EntryField(QWidget* parent) : OneLineEdit(parent) {
     connect(this, &QLineEdit::returnPressed, this, &EntryField::entered);
 }
 
 void EntryField::show_bytes(const std::string& bytes) {
     setText(base::to_qstring(bytes));
     setCursorPosition(0);
+    shown_is_current_ = true;
+}
+
+void EntryField::show_stored(const std::string& bytes) {
+    const QString stored = base::to_qstring(bytes);
+    if (stored != text()) {
+        const int cursor = cursorPosition();
+        setText(stored);
+        setCursorPosition(cursor);
+    }
+    setModified(false);
     shown_is_current_ = true;
 }
 

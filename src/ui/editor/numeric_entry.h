@@ -2,7 +2,6 @@
 
 #include "editor/entry_field.h"
 #include "editor/fields.h"
-#include "shell/session.h"
 
 #include <QSlider>
 
@@ -19,31 +18,31 @@ class NumericEntry : public QObject {
     using Write = std::function<void(const std::string& text)>;
 
     /// `write` stores a text in the selected provinces.
-    NumericEntry(const NumericField& numeric, EntryField& field, QSlider& slider,
-                 const shell::Session& session, Write write);
+    NumericEntry(const NumericField& numeric, EntryField& field, QSlider& slider, Write write);
 
     /// Shows a merged value; the slider never writes for that.
     void show(const std::string& value);
 
-    /// Takes what was typed: stores it, or warns and empties the field when it is out of range.
+    /// Takes what was typed as Enter does: stores it, or refuses it. After that nothing is stored
+    /// until the user types.
     void enter();
 
-    /// Takes the text as the field is left. After a warning nothing is stored until the user types.
-    void leave();
-
-    /// Stores the text, or empties the field and returns false.
+    /// Stores the text; empties the field and returns false when it is out of range.
     bool store();
 
+  signals:
+    void refused();           ///< What was entered is out of range.
+    void refused_when_left(); ///< The same; the focus is on its way to another control.
+
   private:
-    void warn();
+    void leave();
     void set_slider(int position);
 
     const NumericField& numeric_;
     EntryField& field_;
     QSlider& slider_;
-    const shell::Session& session_;
     Write write_;
-    bool refused_ = false;
+    bool is_refused_ = false;
 };
 
 } // namespace editor

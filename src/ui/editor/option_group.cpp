@@ -4,7 +4,7 @@
 
 #include <QKeyEvent>
 
-#include <utility>
+#include <algorithm>
 
 namespace editor {
 
@@ -28,26 +28,29 @@ void OptionButton::focusInEvent(QFocusEvent* event) {
 }
 
 void OptionButton::keyPressEvent(QKeyEvent* event) {
-    const bool forth = event->key() == Qt::Key_Down || event->key() == Qt::Key_Right;
-    const bool back = event->key() == Qt::Key_Up || event->key() == Qt::Key_Left;
-    if (!forth && !back) {
+    const bool down = event->key() == Qt::Key_Down;
+    const bool up = event->key() == Qt::Key_Up;
+    const bool right = event->key() == Qt::Key_Right;
+    if (!down && !up && !right && event->key() != Qt::Key_Left) {
         QRadioButton::keyPressEvent(event);
         return;
     }
-    const auto options = group();
-    const auto next = options.indexOf(this) + (forth ? 1 : options.size() - 1);
+    auto options = group(); // row by row
+    if (down || up)
+        std::stable_sort(options.begin(), options.end(),
+                         [](const auto* one, const auto* other) { return one->x() < other->x(); });
+    const auto next = options.indexOf(this) + (down || right ? 1 : options.size() - 1);
     options[next % options.size()]->setFocus(Qt::TabFocusReason);
 }
 
-void OptionGroup::add(OptionButton* option, std::string code,
+void OptionGroup::add(OptionButton& option) {
+    options_.push_back({&option, {}});
+}
+
+void OptionGroup::add(OptionButton& option, const std::string& code,
                       const std::function<void(const std::string& code)>& chosen) {
-    options_.push_back({option, std::move(code)});
-    const std::size_t index = options_.size() - 1;
-    QObject::connect(option, &QAbstractButton::pressed, option, [this, index, chosen] {
-        for (const auto& other : options_)
-            other.button->setChecked(other.button == options_[index].button);
-        chosen(options_[index].code);
-    });
+    options_.push_back({&option, code});
+    QObject::connect(&option, &QAbstractButton::pressed, &option, [code, chosen] { chosen(code); });
 }
 
 void OptionGroup::show(std::string_view value) const {

@@ -32,8 +32,11 @@ class OptionButton : public QRadioButton {
 /// The options of one field with the codes that they stand for.
 class OptionGroup {
   public:
+    /// Adds an option without a code: it is never on, and pressing it does nothing.
+    void add(OptionButton& option);
+
     /// Adds an option; `chosen` is called with its code when it is pressed.
-    void add(OptionButton* option, std::string code,
+    void add(OptionButton& option, const std::string& code,
              const std::function<void(const std::string& code)>& chosen);
 
     /// Switches on the options whose code is the value, letter case aside, and off all others; the
@@ -43,7 +46,7 @@ class OptionGroup {
   private:
     struct Option {
         OptionButton* button;
-        std::string code;
+        std::string code; // the empty one is never shown
     };
     std::vector<Option> options_;
 };

@@ -1,26 +1,24 @@
 #include "editor/panneau.h"
 
 #include "base/captions.h"
+#include "base/messages.h"
 #include "base/qt_text.h"
 #include "editor/coded_choices.h"
 #include "editor/entry_field.h"
 #include "editor/numeric_entry.h"
-#include "editor/panel_builder.h"
 #include "editor/press_box.h"
+#include "editor/tab_pages.h"
 #include "editor/variant_label.h"
 
+#include <QApplication>
 #include <QComboBox>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QSlider>
-#include <QStackedWidget>
-#include <QTabBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <limits>
 
 namespace editor {
 
@@ -30,49 +28,35 @@ using base::from_utf8;
 using base::to_bytes;
 using base::to_qstring;
 
-template <typename Control>
-Control* control(const QWidget& panel, const QString& name) {
-    auto* found = panel.findChild<Control*>(name);
-    Q_ASSERT_X(found, "panel", qPrintable(name));
-    return found;
-}
-
-template <typename Control>
-Control* control(const QWidget& panel, const Field& field) {
-    return control<Control>(panel, from_utf8(field.control));
-}
-
 } // namespace
 
 Panneau::Panneau(shell::Session& session, QWidget* parent)
-    : QWidget(parent), session_(session), selection_text_(new QLineEdit(this)) {
+    : QWidget(parent), session_(session), selection_text_(new OneLineEdit(this)) {
     setObjectName(QStringLiteral("panneau"));
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     auto* column = new QVBoxLayout(this);
     column->addWidget(build_selection_row());
-    build_tabs();
+    pages_ = new TabPages(session.language, controls_, this);
+    column->addWidget(pages_);
     for (const Field& field : fields)
         shows_[field.number] = bind(field);
-    align(*this);
+    pages_->fit_to_captions();
     show_selection();
-    setFixedWidth(minimumSizeHint().width());
+}
+
+QSize Panneau::sizeHint() const {
+    return {minimumSizeHint().width(), QWidget::sizeHint().height()};
 }
 
 QWidget* Panneau::build_selection_row() {
     auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-
     selection_text_->setObjectName(QStringLiteral("selection_text"));
-    selection_text_->setMaxLength(std::numeric_limits<int>::max());
     layout->addWidget(selection_text_);
-    const auto add_button = [&](std::string_view name, std::string_view design) {
-        auto* button = new QPushButton(base::frame_caption(session_.language, name, design), row);
-        button->setObjectName(from_utf8(name));
-        layout->addWidget(button);
-        return button;
-    };
-    auto* select = add_button("Command1", "Sélectionner");
-    auto* clear = add_button("Command2", "Effacer");
+    auto* select = build_button("Command1", "Sélectionner", row);
+    auto* clear = build_button("Command2", "Effacer", row);
+    selection_text_->setAccessibleName(select->text());
 
     connect(selection_text_, &QLineEdit::returnPressed, this, &Panneau::selection_entered);
     connect(select, &QPushButton::clicked, this, &Panneau::selection_entered);
@@ -83,22 +67,11 @@ QWidget* Panneau::build_selection_row() {
     return row;
 }
 
-void Panneau::build_tabs() {
-    auto* strip = new QTabBar(this);
-    strip->setObjectName(QStringLiteral("TabStrip1"));
-    strip->setExpanding(false);
-    auto* frames = new QStackedWidget(this);
-    for (const auto& tab : tabs) {
-        strip->addTab(base::frame_caption(session_.language, tab.caption_key, tab.title));
-        frames->addWidget(build_tab(tab, session_.language, frames));
-    }
-    // The focus leaves the old tab's field before that hides, and enters none of the new one's.
-    connect(strip, &QTabBar::currentChanged, this, [strip, frames](int index) {
-        strip->setFocus(Qt::OtherFocusReason);
-        frames->setCurrentIndex(index);
-    });
-    layout()->addWidget(strip);
-    layout()->addWidget(frames);
+QPushButton* Panneau::build_button(std::string_view name, std::string_view design, QWidget* row) {
+    auto* button = new QPushButton(base::frame_caption(session_.language, name, design), row);
+    button->setObjectName(from_utf8(name));
+    row->layout()->addWidget(button);
+    return button;
 }
 
 std::string Panneau::selection_text() const {
@@ -115,11 +88,13 @@ void Panneau::focus_selection_text() {
 }
 
 void Panneau::show_selection() {
-    const auto values = shown_values(session_.provinces, session_.selection);
-    for (const Field& field : fields) {
-        if (const Show& show = shows_[field.number])
-            show(values[field.number]);
-    }
+    for (const Field& field : fields)
+        show_field(field);
+}
+
+void Panneau::show_field(const Field& field) {
+    if (const Show& show = shows_[field.number])
+        show(shown_value(session_.provinces, session_.selection, field));
 }
 
 void Panneau::forget_shown() {
@@ -142,21 +117,32 @@ void Panneau::keep_typed_text() {
     }
 }
 
-bool Panneau::eventFilter(QObject* watched, QEvent* event) {
-    // Turning the wheel over the panel must not change the value that happens to lie under it.
-    if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
-        event->ignore();
-        return true;
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
 bool Panneau::anything_selected() const {
     return !session_.selection.provinces().empty();
 }
 
-void Panneau::write(const std::string& value, data::FieldNumber field) {
-    changement(session_.provinces, session_.selection, value, field);
+void Panneau::write(const std::string& value, const Field& field) {
+    changement(session_.provinces, session_.selection, value, field.number);
+    if (!anything_selected())
+        show_field(field);
+}
+
+void Panneau::warn(const NumericField& numeric) {
+    base::show_message(session_, window(), session_.language.message(numeric.message));
+}
+
+void Panneau::warn_and_return(const NumericField& numeric, EntryField& field) {
+    const auto selected = session_.selection.provinces();
+    const auto warn_now = [this, &numeric, &field,
+                           stays = isAncestorOf(QApplication::focusWidget()),
+                           before = std::vector<int>(selected.begin(), selected.end())] {
+        warn(numeric);
+        const auto now = session_.selection.provinces();
+        if (stays && std::equal(before.begin(), before.end(), now.begin(), now.end()))
+            pages_->return_to(field);
+    };
+    // A box that opens while the focus is on its way would swallow the click that moves it.
+    QMetaObject::invokeMethod(this, warn_now, Qt::QueuedConnection);
 }
 
 Panneau::Show Panneau::bind(const Field& field) {
@@ -183,90 +169,88 @@ Panneau::Show Panneau::bind(const Field& field) {
 }
 
 Panneau::Show Panneau::bind_text(const Field& field) {
-    auto* text = control<EntryField>(*this, field);
-    const auto store = [this, text, number = field.number] {
-        write(text->bytes(), number);
-        text->setModified(false);
+    auto& text = controls_.get<EntryField>(from_utf8(field.control));
+    const auto store = [this, &text, &field] {
+        const std::string entered = text.bytes();
+        text.show_stored(entered);
+        write(entered, field);
     };
-    connect(text, &EntryField::entered, this, store);
-    connect(text, &EntryField::left, this, store);
-    entries_.push_back({text, store, store});
-    return [text](const std::string& value) { text->show_bytes(value); };
+    connect(&text, &EntryField::entered, this, store);
+    connect(&text, &EntryField::left, this, store);
+    entries_.push_back({&text, store, store});
+    return [&text](const MergedValue& value) { text.show_bytes(value.text); };
 }
 
 Panneau::Show Panneau::bind_slider(const Field& field) {
-    const auto* numeric =
-        std::find_if(numeric_fields.begin(), numeric_fields.end(),
-                     [&](const NumericField& each) { return each.number == field.number; });
-    auto* text = control<EntryField>(*this, field);
-    auto* slider = control<QSlider>(*this, from_utf8(numeric->slider));
-    slider->installEventFilter(this);
+    const NumericField& numeric = numeric_field(field.number);
+    auto& text = controls_.get<EntryField>(from_utf8(field.control));
+    auto& slider = controls_.get<QSlider>(from_utf8(numeric.slider));
     auto* entry = new NumericEntry(
-        *numeric, *text, *slider, session_,
-        [this, number = field.number](const std::string& value) { write(value, number); });
-    entries_.push_back({text, [entry] { entry->enter(); }, [entry] { entry->store(); }});
-    return [entry](const std::string& value) { entry->show(value); };
+        numeric, text, slider, [this, &field](const std::string& value) { write(value, field); });
+    connect(entry, &NumericEntry::refused, this, [this, &numeric] { warn(numeric); });
+    connect(entry, &NumericEntry::refused_when_left, this,
+            [this, &numeric, &text] { warn_and_return(numeric, text); });
+    entries_.push_back({&text, [entry] { entry->enter(); }, [entry] { entry->store(); }});
+    return [entry](const MergedValue& value) { entry->show(value.text); };
 }
 
 Panneau::Show Panneau::bind_group(const Field& field) {
     auto& group = *groups_.emplace_back(std::make_unique<OptionGroup>());
     const auto entries = session_.language.list(field.list_prefix);
     for (std::size_t n = 0; n < shell::capacity(field.list_prefix); ++n) {
-        auto* option = control<OptionButton>(
-            *this, QStringLiteral("%1(%2)").arg(from_utf8(field.control)).arg(n));
-        if (n < entries.size())
-            option->setText(base::caption_text(entries[n].text));
-        group.add(option, n < entries.size() ? entries[n].code : std::string(),
-                  [this, &field, &group](const std::string& code) {
-                      choose(session_.provinces, session_.selection, field, code);
-                      if (!anything_selected())
-                          group.show({});
-                  });
+        auto& option = controls_.get<OptionButton>(
+            QStringLiteral("%1(%2)").arg(from_utf8(field.control)).arg(n));
+        if (n >= entries.size()) {
+            group.add(option);
+            continue;
+        }
+        option.setText(base::caption_text(entries[n].text));
+        group.add(option, entries[n].code, [this, &field](const std::string& code) {
+            choose(session_.provinces, session_.selection, field, code);
+            show_field(field);
+        });
     }
-    return [&group](const std::string& value) { group.show(value); };
+    return [&group](const MergedValue& value) { group.show(value.text); };
 }
 
 Panneau::Show Panneau::bind_list(const Field& field) {
-    auto* list = control<QComboBox>(*this, field);
-    list->installEventFilter(this);
+    auto& list = controls_.get<QComboBox>(from_utf8(field.control));
     const auto entries = session_.language.list(field.list_prefix);
     const auto items = shell::capacity(field.list_prefix);
     for (std::size_t n = 0; n < items; ++n) {
         const std::string text = n < entries.size() ? entries[n].text : std::string();
-        list->addItem(base::caption_text(text), to_qstring(text));
+        list.addItem(base::caption_text(text), to_qstring(text));
     }
-    connect(list, &QComboBox::activated, this, [this, list, entries, items, &field] {
-        write(shell::code_of_text(entries, items, to_bytes(list->currentData().toString())),
-              field.number);
-        if (!anything_selected())
-            list->setCurrentIndex(-1);
+    connect(&list, &QComboBox::activated, this, [this, &list, entries, items, &field] {
+        write(shell::code_of_text(entries, items, to_bytes(list.currentData().toString())), field);
     });
-    return [list, entries](const std::string& value) {
-        list->setCurrentIndex(shell::index_of_code(entries, value));
+    return [&list, entries](const MergedValue& value) {
+        const bool is_common = value.state == MergedValue::State::common;
+        list.setCurrentIndex(is_common ? shell::index_of_code(entries, value.text) : -1);
     };
 }
 
 Panneau::Show Panneau::bind_box(const Field& field) {
-    auto* box = control<PressBox>(*this, field);
+    auto& box = controls_.get<PressBox>(from_utf8(field.control));
     const auto entries = session_.language.list(field.list_prefix);
     if (field.list_entry < entries.size())
-        box->setText(base::caption_text(entries[field.list_entry].text));
-    connect(box, &QAbstractButton::pressed, this, [this, box, &field] {
-        const bool was_on = box->isChecked();
-        box->setChecked(!was_on && anything_selected());
-        write(std::string(value_after_press(field, was_on)), field.number);
+        box.setText(base::caption_text(entries[field.list_entry].text));
+    connect(&box, &QAbstractButton::pressed, this, [this, &box, &field] {
+        changement(session_.provinces, session_.selection,
+                   value_after_press(field, box.isChecked()), field.number);
+        show_field(field);
     });
-    return [box, &field](const std::string& value) { box->setChecked(is_checked(field, value)); };
+    return
+        [&box, &field](const MergedValue& value) { box.setChecked(is_checked(field, value.text)); };
 }
 
 Panneau::Show Panneau::bind_label(const Field& field) {
-    auto* label = control<QLabel>(*this, field);
-    if (auto* variant = qobject_cast<VariantLabel*>(label)) {
-        connect(variant, &VariantLabel::clicked, this, [this, variant, number = field.number] {
-            write(to_bytes(variant->text()), number);
-        });
+    auto& label = controls_.get<QLabel>(from_utf8(field.control));
+    if (field.display == Display::variant) {
+        connect(&controls_.get<VariantLabel>(from_utf8(field.control)), &VariantLabel::clicked,
+                this, [this, &label, &field] { write(to_bytes(label.text()), field); });
     }
-    return [label](const std::string& value) { label->setText(to_qstring(value)); };
+    return [&label](const MergedValue& value) { label.setText(to_qstring(value.text)); };
 }
 
 } // namespace editor

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "editor/controls.h"
 #include "editor/fields.h"
+#include "editor/merged_values.h"
 #include "editor/option_group.h"
 #include "shell/session.h"
 
@@ -12,10 +14,12 @@
 #include <vector>
 
 class QLineEdit;
+class QPushButton;
 
 namespace editor {
 
 class EntryField;
+class TabPages;
 
 /// The tabbed panel: shows the merged values of the selected provinces, and writes what the user
 /// enters into all of them at once.
@@ -27,7 +31,8 @@ class Panneau : public QWidget {
 
     std::string selection_text() const;
     void set_selection_text(const std::string& text);
-    /// Gives the focus to the selection field, its text marked.
+
+    /// Gives the selection text the keyboard focus.
     void focus_selection_text();
 
     /// Shows the selected provinces' values in all controls.
@@ -43,15 +48,15 @@ class Panneau : public QWidget {
     /// Writes it as far as it may stand, without a word.
     void keep_typed_text();
 
+    /// Returns the width that all controls need, which the panel keeps.
+    QSize sizeHint() const override;
+
   signals:
     void selection_entered(); ///< The selection text is to be applied.
 
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
   private:
     /// Puts a merged value into a field's control.
-    using Show = std::function<void(const std::string& value)>;
+    using Show = std::function<void(const MergedValue& value)>;
 
     /// A text field and how its typed text is stored.
     struct Entry {
@@ -61,7 +66,7 @@ class Panneau : public QWidget {
     };
 
     QWidget* build_selection_row();
-    void build_tabs();
+    QPushButton* build_button(std::string_view name, std::string_view design, QWidget* row);
 
     Show bind(const Field& field);
     Show bind_text(const Field& field);
@@ -72,10 +77,21 @@ class Panneau : public QWidget {
     Show bind_label(const Field& field);
 
     bool anything_selected() const;
-    void write(const std::string& value, data::FieldNumber field);
+    void show_field(const Field& field);
+
+    /// Writes what was entered into a field's control; with nothing selected the control is empty
+    /// then.
+    void write(const std::string& value, const Field& field);
+
+    void warn(const NumericField& numeric);
+
+    /// Warns once the focus, which is on its way, has arrived, and takes it back into the field.
+    void warn_and_return(const NumericField& numeric, EntryField& field);
 
     shell::Session& session_;
     QLineEdit* selection_text_;
+    Controls controls_;
+    TabPages* pages_ = nullptr;
     data::FieldArray<Show> shows_;
     std::vector<std::unique_ptr<OptionGroup>> groups_;
     std::vector<Entry> entries_;

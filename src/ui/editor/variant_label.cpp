@@ -16,7 +16,7 @@ void VariantLabel::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void VariantLabel::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Space)
+    if (event->key() == Qt::Key_Space && !event->isAutoRepeat())
         emit clicked();
     else
         QLabel::keyPressEvent(event);

@@ -21,32 +21,43 @@ struct Provinces {
     data::ProvinceTable table;
     editor::Selection selection;
 
-    std::string merged(FieldNumber number) const { return merged_values(table, selection)[number]; }
-    std::string shown(FieldNumber number) const { return shown_values(table, selection)[number]; }
+    editor::MergedValue merged(FieldNumber number) const {
+        return merged_value(table, selection, number);
+    }
+    std::string shown(FieldNumber number) const {
+        return shown_value(table, selection, fields[number]).text;
+    }
     std::string cell(int province, FieldNumber number) const {
         return table.cell(province, table_column(number));
     }
 };
 
 TEST(MergedValues, OfThreeProvinces) {
+    using enum editor::MergedValue::State;
     const struct {
         std::vector<const char*> cells;
-        const char* merged;
+        editor::MergedValue merged;
     } cases[] = {
-        {{"catholic", "catholic", "catholic"}, "catholic"},
-        {{"catholic", "catholic", "sunni"}, ""},
-        {{"Coastal", "coastal", "COASTAL"}, "Coastal"},
-        {{"\xC9vora", "\xE9vora", "\xE9VORA"}, "\xC9vora"},
-        {{"", "x", "x"}, ""},
-        {{"a", "b", "a"}, ""},
+        {{"catholic", "catholic", "catholic"}, {common, "catholic"}},
+        {{"catholic", "catholic", "sunni"}, {differing}},
+        {{"Coastal", "coastal", "COASTAL"}, {common, "Coastal"}},
+        {{"\xC9vora", "\xE9vora", "\xE9VORA"}, {common, "\xC9vora"}},
+        {{"", "", ""}, {common}},
+        {{"", "x", "x"}, {differing}},
+        {{"a", "b", "a"}, {differing}},
+        {{"Premier", "PREMIER", "x"}, {common, "x"}},
+        {{"premier", "Premier", "premier"}, {none}},
+        {{"x", "x", "premier"}, {differing}},
+        {{"Null", "null", "NULL"}, {differing}},
+        {{"premier", "null", "null"}, {differing}},
     };
     for (const auto& each : cases) {
         Provinces provinces;
         for (std::size_t n = 0; n < each.cells.size(); ++n)
             provinces.table.load(static_cast<int>(n) + 5, {1}, each.cells[n]);
-        EXPECT_EQ(provinces.merged({2}), "") << "nothing is selected";
+        EXPECT_EQ(provinces.merged({2}), editor::MergedValue{none}) << "nothing is selected";
         provinces.selection.apply("5-7");
-        EXPECT_EQ(provinces.merged({2}), each.merged);
+        EXPECT_EQ(provinces.merged({2}), each.merged) << each.cells[0] << each.cells[2];
     }
 }
 
@@ -99,6 +110,8 @@ TEST(NumericFields, EntryAndSlider) {
     EXPECT_GT(slider_position_shown(ferocity, std::string(500, '9')), 20);
     EXPECT_EQ(slider_text(ferocity, 10), "2.5");
     EXPECT_EQ(slider_text(efficiency, 20), "2");
+    EXPECT_EQ(&editor::numeric_field(efficiency.number), &efficiency);
+    EXPECT_THROW(editor::numeric_field(goods), std::logic_error);
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "editor/controls.h"
 #include "support/panel.h"
 
 namespace {
@@ -136,10 +137,14 @@ TEST_F(Panel, WithNothingSelectedAllIsEmptyAndNothingIsWritten) {
     auto& panel = *control<QWidget>("panneau").findChild<QStackedWidget*>();
     for (auto* child : panel.findChildren<QWidget*>()) {
         const std::string name = child->objectName().toStdString();
-        if (auto* text = qobject_cast<QLineEdit*>(child); text != nullptr && !name.empty())
+        if (auto* text = qobject_cast<QLineEdit*>(child); text != nullptr && !name.empty()) {
             enter(name, QStringLiteral("1"));
-        else if (auto* button = qobject_cast<QAbstractButton*>(child);
-                 button != nullptr && button->isCheckable()) {
+            EXPECT_EQ(shown(name), "") << name;
+            type(name, QStringLiteral("1"));
+            QTest::keyClick(child, Qt::Key_Tab);
+            EXPECT_EQ(shown(name), "") << name << " left";
+        } else if (auto* button = qobject_cast<QAbstractButton*>(child);
+                   button != nullptr && button->isCheckable()) {
             EXPECT_FALSE(button->isChecked()) << name;
             click(name);
             EXPECT_FALSE(button->isChecked()) << name;
@@ -151,6 +156,8 @@ TEST_F(Panel, WithNothingSelectedAllIsEmptyAndNothingIsWritten) {
         } else if (auto* slider = qobject_cast<QSlider*>(child)) {
             EXPECT_EQ(slider->minimum(), 0);
             QTest::keyClick(slider, Qt::Key_Right);
+            EXPECT_EQ(shown(name), "0") << name;
+            EXPECT_EQ(shown(name.substr(0, name.size() - 2)), "") << name;
         }
     }
     EXPECT_FALSE(session.provinces.has_unsaved_changes());
@@ -167,11 +174,15 @@ TEST_F(Panel, OptionsAreChosenByThePressAlone) {
 
     QWidget* focus = &visible("religion(6)");
     for (const auto& [key, next] : {std::pair{Qt::Key_Right, "religion(7)"},
-                                    {Qt::Key_Down, "religion(8)"},
+                                    {Qt::Key_Down, "religion(10)"},
+                                    {Qt::Key_Down, "religion(2)"},
+                                    {Qt::Key_Up, "religion(10)"},
+                                    {Qt::Key_Right, "religion(0)"},
+                                    {Qt::Key_Left, "religion(10)"},
                                     {Qt::Key_Up, "religion(7)"}}) {
         QTest::keyClick(focus, key);
         focus = QApplication::focusWidget();
-        EXPECT_EQ(focus, &control<QWidget>(next));
+        EXPECT_EQ(focus->objectName().toStdString(), next);
     }
     EXPECT_EQ(cells(3) + shown("religion"), "sunni|sunni6") << "arrow keys write nothing";
     QTest::keyPress(focus, Qt::Key_Space);
@@ -189,6 +200,36 @@ TEST_F(Panel, GreyedBoxesWriteWhatCheckedOnesDo) {
         EXPECT_EQ(cell(6, field), value) << name;
         EXPECT_EQ(shown(name), "off");
     }
+}
+
+TEST_F(Panel, WhatTheLanguageFileLacksIsNeitherWrittenNorShown) {
+    frame.reset();
+    folder.write("english.lng", "\"RELIGION_\",\"Empty\"\r\n\"CULTURE_\",\"Empty\"\r\n");
+    start();
+    EXPECT_EQ(control<QRadioButton>("religion(1)").text(), QStringLiteral("Contre-Réforme"));
+    EXPECT_EQ(shown("religion") + shown("culture"), "") << "nothing is selected";
+    for (const int field : {3, 4})
+        select_with(field, "x", "y");
+    EXPECT_EQ(shown("religion") + shown("culture"), "") << "they differ";
+    for (const char* missing : {"religion(1)", "religion(10)", "tot(1)"})
+        press(missing);
+    EXPECT_EQ(cells(3) + shown("religion"), "x|y");
+    EXPECT_FALSE(session.provinces.has_unsaved_changes());
+    press("religion(0)");
+    EXPECT_EQ(cells(3), "|") << "the record has that code";
+    EXPECT_EQ(shown("religion"), "");
+    select_with(4, "", "");
+    EXPECT_EQ(shown("culture"), "Empty") << "a value like any other";
+}
+
+TEST(PanelControls, AWrongNameIsAnError) {
+    editor::Controls controls;
+    QLineEdit field;
+    controls.add(QStringLiteral("nom"), &field);
+    EXPECT_EQ(&controls.get<QLineEdit>(QStringLiteral("nom")), &field);
+    EXPECT_THROW(controls.get<QLineEdit>(QStringLiteral("nm")), std::logic_error);
+    EXPECT_THROW(controls.get<QSlider>(QStringLiteral("nom")), std::logic_error);
+    EXPECT_THROW(controls.add(QStringLiteral("nom"), &field), std::logic_error);
 }
 
 TEST_F(Panel, ListsTakeTheFirstEntryOfAText) {
@@ -231,7 +272,7 @@ TEST_F(Panel, NumbersAndTheirSliders) {
             load(6, row.field, "x");
             type(row.control, QString::fromLatin1(row.typed));
             QTest::keyClick(&visible(row.control), by_enter ? Qt::Key_Return : Qt::Key_Tab);
-            QTest::qWait(20);
+            QCoreApplication::processEvents();
             const auto seen = boxes.take();
             ASSERT_EQ(seen.size(), *row.message == 0 ? 0U : 1U);
             if (!seen.empty()) {
