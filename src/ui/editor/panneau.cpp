@@ -16,9 +16,8 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSlider>
+#include <QTimer>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace editor {
 
@@ -27,6 +26,9 @@ namespace {
 using base::from_utf8;
 using base::to_bytes;
 using base::to_qstring;
+using namespace std::chrono_literals;
+
+constexpr auto release_interval = 10ms;
 
 } // namespace
 
@@ -121,6 +123,11 @@ bool Panneau::anything_selected() const {
     return !session_.selection.provinces().empty();
 }
 
+std::vector<int> Panneau::selected_provinces() const {
+    const auto provinces = session_.selection.provinces();
+    return {provinces.begin(), provinces.end()};
+}
+
 void Panneau::write(const std::string& value, const Field& field) {
     changement(session_.provinces, session_.selection, value, field.number);
     if (!anything_selected())
@@ -131,18 +138,16 @@ void Panneau::warn(const NumericField& numeric) {
     base::show_message(session_, window(), session_.language.message(numeric.message));
 }
 
-void Panneau::warn_and_return(const NumericField& numeric, EntryField& field) {
-    const auto selected = session_.selection.provinces();
-    const auto warn_now = [this, &numeric, &field,
-                           stays = isAncestorOf(QApplication::focusWidget()),
-                           before = std::vector<int>(selected.begin(), selected.end())] {
-        warn(numeric);
-        const auto now = session_.selection.provinces();
-        if (stays && std::equal(before.begin(), before.end(), now.begin(), now.end()))
-            pages_->return_to(field);
-    };
-    // A box that opens while the focus is on its way would swallow the click that moves it.
-    QMetaObject::invokeMethod(this, warn_now, Qt::QueuedConnection);
+void Panneau::warn_after_leaving(const Refusal& refusal, std::chrono::milliseconds wait) {
+    QTimer::singleShot(wait, this, [this, refusal] {
+        if (QApplication::mouseButtons() != Qt::NoButton) {
+            warn_after_leaving(refusal, release_interval);
+            return;
+        }
+        warn(refusal.numeric);
+        if (refusal.is_in_panel && refusal.selected == selected_provinces())
+            pages_->return_to(refusal.field);
+    });
 }
 
 Panneau::Show Panneau::bind(const Field& field) {
@@ -188,8 +193,10 @@ Panneau::Show Panneau::bind_slider(const Field& field) {
     auto* entry = new NumericEntry(
         numeric, text, slider, [this, &field](const std::string& value) { write(value, field); });
     connect(entry, &NumericEntry::refused, this, [this, &numeric] { warn(numeric); });
-    connect(entry, &NumericEntry::refused_when_left, this,
-            [this, &numeric, &text] { warn_and_return(numeric, text); });
+    connect(entry, &NumericEntry::refused_when_left, this, [this, &numeric, &text] {
+        const bool is_in_panel = isAncestorOf(QApplication::focusWidget());
+        warn_after_leaving({numeric, text, is_in_panel, selected_provinces()}, 0ms);
+    });
     entries_.push_back({&text, [entry] { entry->enter(); }, [entry] { entry->store(); }});
     return [entry](const MergedValue& value) { entry->show(value.text); };
 }

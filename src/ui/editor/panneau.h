@@ -8,6 +8,7 @@
 
 #include <QWidget>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
@@ -77,6 +78,7 @@ class Panneau : public QWidget {
     Show bind_label(const Field& field);
 
     bool anything_selected() const;
+    std::vector<int> selected_provinces() const;
     void show_field(const Field& field);
 
     /// Writes what was entered into a field's control; with nothing selected the control is empty
@@ -85,8 +87,18 @@ class Panneau : public QWidget {
 
     void warn(const NumericField& numeric);
 
-    /// Warns once the focus, which is on its way, has arrived, and takes it back into the field.
-    void warn_and_return(const NumericField& numeric, EntryField& field);
+    /// A number that was refused while the focus went elsewhere.
+    struct Refusal {
+        const NumericField& numeric;
+        EntryField& field;
+        bool is_in_panel;          // where the focus went
+        std::vector<int> selected; // provinces for which it was typed
+    };
+
+    /// Warns after the wait, but not before the click that moved the focus is over: a box would
+    /// swallow its release. The field gets the focus back if that stayed in the panel and the
+    /// selection is the same.
+    void warn_after_leaving(const Refusal& refusal, std::chrono::milliseconds wait);
 
     shell::Session& session_;
     QLineEdit* selection_text_;

@@ -94,7 +94,9 @@ TEST_F(Panel, WhatLeavesAFieldAndWhatDoesNot) {
     // A dialog is not leaving either.
     select_with(1, "a", "b");
     QTest::mouseClick(&visible("nom_province"), Qt::LeftButton);
+    session.configuration.province_save_path = folder.path("x.csv");
     save_as(QStringLiteral("other"));
+    EXPECT_TRUE(has_file(QStringLiteral("other.csv")));
     EXPECT_EQ(cells(1), "a|b");
 }
 
@@ -122,7 +124,7 @@ TEST_F(Panel, TheFocusComesBackToARefusedNumber) {
             QTest::keyClick(&visible("férocité"), Qt::Key_Tab);
         else
             click(row.to);
-        QCoreApplication::processEvents();
+        QTest::qWait(20);
         EXPECT_EQ(boxes.take().size(), 1U);
         come_back();
         auto& field = control<QWidget>("férocité");

@@ -272,7 +272,7 @@ TEST_F(Panel, NumbersAndTheirSliders) {
             load(6, row.field, "x");
             type(row.control, QString::fromLatin1(row.typed));
             QTest::keyClick(&visible(row.control), by_enter ? Qt::Key_Return : Qt::Key_Tab);
-            QCoreApplication::processEvents();
+            QTest::qWait(20);
             const auto seen = boxes.take();
             ASSERT_EQ(seen.size(), *row.message == 0 ? 0U : 1U);
             if (!seen.empty()) {
