@@ -196,7 +196,8 @@ void province_under_the_pointer(benchmark::State& state) {
     const map::MapImage image(world().maps().id_map_path);
     RandomPlace place;
     for ([[maybe_unused]] auto _ : state)
-        benchmark::DoNotOptimize(map::province_of(image.colour_at(place.next()).value_or(0)));
+        benchmark::DoNotOptimize(
+            map::province_of(map::MapReader(image).colour_at(place.next()).value_or(0)));
 }
 BENCHMARK(province_under_the_pointer)->Unit(benchmark::kMicrosecond);
 

@@ -31,6 +31,7 @@ struct World {
     World(Mode mode, QSize spread) {
         session.mode = mode;
         session.configuration.terrain_art_folder = base::stored_path(folder.path());
+        session.configuration.terrain_art_flag = 1;
         session.port_placement = {1, 1};
         save_pictures();
         constexpr int columns = 53; // of a grid of 2,018 provinces
@@ -89,7 +90,7 @@ void paint_overlay(benchmark::State& state, Mode mode, QSize spread) {
     for ([[maybe_unused]] auto _ : state) {
         QPainter painter(&surface);
         painter.translate(-exposed.topLeft());
-        preview.paint(painter, exposed, 1000);
+        preview.ajout_graph(painter, exposed, 1000);
     }
 }
 

@@ -43,6 +43,20 @@ inline std::string plain_map(QRgb colour = paper, int map_width = width) {
     return bitmaps::painted(map_width, height, [=](int, int) { return colour & 0xFFFFFF; });
 }
 
+/// Collects what a widget paints.
+class PaintedRegion : public QObject {
+  public:
+    explicit PaintedRegion(QWidget* widget) { widget->installEventFilter(this); }
+    QRegion region;
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint)
+            region |= static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+};
+
 /// A map window on small maps of its own.
 class Form1 : public testing::Test {
   protected:

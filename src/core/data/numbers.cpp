@@ -83,10 +83,36 @@ std::int16_t to_int16(double number, std::string_view place) {
 }
 
 std::string to_text(double number) {
+    constexpr int significant_digits = 15;
+    constexpr double largest = std::numeric_limits<double>::max();
     std::array<char, 32> buffer{};
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
-                                      number == 0 ? 0.0 : number, std::chars_format::general, 15);
-    return {buffer.data(), result.ptr};
+    const auto* end = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
+                                    std::abs(std::clamp(number, -largest, largest)),
+                                    std::chars_format::scientific, significant_digits - 1)
+                          .ptr;
+    const std::string_view written(buffer.data(), end); // "d.dddde+xx"
+    const auto mark = written.find('e');
+    if (mark == std::string_view::npos)
+        return "0"; // no number at all
+
+    std::string digits(written.substr(0, 1));
+    digits += written.substr(2, mark - 2);
+    digits.erase(digits.find_last_not_of('0') + 1);
+    if (digits.empty())
+        return "0";
+    int exponent = 0;
+    const auto exponent_text = written.substr(written[mark + 1] == '+' ? mark + 2 : mark + 1);
+    std::from_chars(exponent_text.data(), end, exponent);
+    if (exponent < 0) {
+        digits.insert(0, static_cast<std::size_t>(-exponent), '0');
+        exponent = 0;
+    }
+    const auto whole_digits = static_cast<std::size_t>(exponent) + 1;
+    if (digits.size() > whole_digits)
+        digits.insert(whole_digits, 1, '.');
+    else
+        digits.resize(whole_digits, '0');
+    return number < 0 ? "-" + digits : digits;
 }
 
 } // namespace data

@@ -1,6 +1,8 @@
 #include "map/bitmap_file.h"
 
-#include "data/run_time_error.h"
+#include "map/bitmap_header.h"
+#include "map/image_error.h"
+#include "map/little_endian.h"
 
 #include <algorithm>
 #include <bit>
@@ -12,97 +14,19 @@ namespace {
 
 constexpr Pixel opaque = 0xFF000000;
 
-constexpr std::size_t file_header_size = 14;
-constexpr std::size_t core_header_size = 12; // the oldest header, with 16-bit sizes
-constexpr std::size_t info_header_size = 40;
-constexpr std::size_t masks_begin = file_header_size + info_header_size;
-
-enum class Compression : std::uint32_t { none = 0, bit_fields = 3 };
-
-[[noreturn]] void fail(const std::string& reason) {
-    throw data::RunTimeError(data::ErrorNumber::path_file_access, reason);
-}
-
-std::uint32_t byte_at(std::span<const char> bytes, std::size_t position) {
-    return static_cast<unsigned char>(bytes[position]);
-}
-
-std::uint32_t read_16(std::span<const char> bytes, std::size_t position) {
-    return byte_at(bytes, position) | byte_at(bytes, position + 1) << 8;
-}
-
-std::uint32_t read_24(std::span<const char> bytes, std::size_t position) {
-    return read_16(bytes, position) | byte_at(bytes, position + 2) << 16;
-}
-
-std::uint32_t read_32(std::span<const char> bytes, std::size_t position) {
-    return read_24(bytes, position) | byte_at(bytes, position + 3) << 24;
-}
-
-std::int32_t read_signed_32(std::span<const char> bytes, std::size_t position) {
-    return static_cast<std::int32_t>(read_32(bytes, position));
-}
-
-/// The header's values, whichever of its forms the file has.
-struct Header {
-    std::size_t size = 0;
-    std::int64_t width = 0;
-    std::int64_t height = 0; // negative: the top row comes first
-    unsigned bits_per_pixel = 0;
-    std::uint32_t compression = 0;
-    std::uint32_t colours = 0; // 0: as many as the bits per pixel allow
-    std::size_t palette_begin = 0;
-    std::size_t palette_step = 0; // bytes of an entry
-};
-
-Header read_header(std::span<const char> head) {
-    constexpr auto smallest = file_header_size + core_header_size;
-    if (head.size() < smallest)
-        fail("the file ends inside the bitmap header");
-    Header header;
-    header.size = read_32(head, file_header_size);
-    if (header.size == core_header_size) {
-        header.width = read_16(head, 18);
-        header.height = read_16(head, 20);
-        header.bits_per_pixel = read_16(head, 24);
-        header.palette_begin = smallest;
-        header.palette_step = 3;
-        return header;
-    }
-    if (header.size < info_header_size)
-        fail("a bitmap header of " + std::to_string(header.size) +
-             " bytes, 12 or at least 40 were expected");
-    if (head.size() < masks_begin)
-        fail("the file ends inside the bitmap header");
-    header.width = read_signed_32(head, 18);
-    header.height = read_signed_32(head, 22);
-    header.bits_per_pixel = read_16(head, 28);
-    header.compression = read_32(head, 30);
-    header.colours = read_32(head, 46);
-    header.palette_begin = file_header_size + header.size;
-    header.palette_step = 4;
-    return header;
-}
-
-void check_size(const Header& header) {
-    constexpr std::int64_t largest = 0x7FFFFFFF;
-    if (header.width < 1 || header.height == 0 || header.height < -largest)
-        fail("a bitmap of " + std::to_string(header.width) + " x " + std::to_string(header.height) +
-             " pixels, at least 1 x 1 was expected");
-}
-
 void check_has_pixels(const BitmapLayout& layout, std::uint64_t file_size) {
     const auto last_row = static_cast<std::uint64_t>(layout.height) - 1;
     const auto bytes_of_last = // its padding may be missing
         (static_cast<std::uint64_t>(layout.width) * layout.bits_per_pixel + 7) / 8;
     const auto needed = layout.pixels_begin + last_row * layout.bytes_per_row + bytes_of_last;
     if (needed > file_size)
-        fail("a bitmap of " + std::to_string(layout.width) + " x " + std::to_string(layout.height) +
-             " pixels with " + std::to_string(layout.bits_per_pixel) + " bits each needs " +
-             std::to_string(needed) + " bytes, the file has " + std::to_string(file_size));
+        throw image_error(
+            "a bitmap of " + std::to_string(layout.width) + " x " + std::to_string(layout.height) +
+            " pixels with " + std::to_string(layout.bits_per_pixel) + " bits each needs " +
+            std::to_string(needed) + " bytes, the file has " + std::to_string(file_size));
 }
 
-std::vector<Pixel> read_palette(std::span<const char> head, const Header& header) {
+std::vector<Pixel> read_palette(std::span<const char> head, const BitmapHeader& header) {
     const auto possible = std::size_t{1} << header.bits_per_pixel;
     const auto given =
         header.colours == 0 ? possible : std::min<std::size_t>(header.colours, possible);
@@ -120,12 +44,12 @@ constexpr std::array<Channel, 3> channels_of_16_bits = {{{10, 5}, {5, 5}, {0, 5}
 constexpr std::array<Channel, 3> channels_of_32_bits = {{{16, 8}, {8, 8}, {0, 8}}};
 
 /// Returns the channels that the header's masks name; nothing for a mask with holes in it.
-std::optional<std::array<Channel, 3>> read_channels(std::span<const char> head) {
+std::optional<std::array<Channel, 3>> read_channels(std::span<const char> head,
+                                                    std::size_t position) {
     std::array<Channel, 3> channels;
-    std::size_t position = masks_begin;
     for (Channel& channel : channels) {
         if (position + 4 > head.size())
-            fail("the file ends inside the bitmap header");
+            throw image_error("the file ends inside the bitmap header");
         const std::uint32_t mask = read_32(head, position);
         if (mask == 0)
             return {};
@@ -165,22 +89,19 @@ void fill(std::span<Pixel> pixels, std::size_t first, std::size_t step, PixelAt 
 
 std::optional<BitmapLayout> read_bitmap_layout(std::string_view head_bytes,
                                                std::uint64_t file_size) {
-    if (!head_bytes.starts_with("BM"))
-        return {};
     const std::span<const char> head(head_bytes);
-    const Header header = read_header(head);
-    check_size(header);
-
-    const auto compression = static_cast<Compression>(header.compression);
-    if (compression != Compression::none && compression != Compression::bit_fields)
+    if (!is_bitmap(head))
+        return {};
+    const BitmapHeader header = read_bitmap_header(head);
+    if (header.compression != Compression::none && header.compression != Compression::bit_fields)
         return {};
 
     BitmapLayout layout;
-    layout.width = static_cast<int>(header.width);
-    layout.height = static_cast<int>(header.height < 0 ? -header.height : header.height);
+    layout.width = header.width;
+    layout.height = header.height;
     layout.bits_per_pixel = header.bits_per_pixel;
-    layout.top_down = header.height < 0;
-    layout.pixels_begin = read_32(head, 10);
+    layout.top_down = header.top_down;
+    layout.pixels_begin = header.pixels_begin;
     layout.bytes_per_row =
         (static_cast<std::uint64_t>(layout.width) * layout.bits_per_pixel + 31) / 32 * 4;
 
@@ -199,13 +120,13 @@ std::optional<BitmapLayout> read_bitmap_layout(std::string_view head_bytes,
         layout.channels = channels_of_32_bits;
         break;
     default:
-        fail("a bitmap with " + std::to_string(layout.bits_per_pixel) +
-             " bits per pixel, 1, 4, 8, 16, 24 or 32 were expected");
+        throw image_error("a bitmap with " + std::to_string(layout.bits_per_pixel) +
+                          " bits per pixel, 1, 4, 8, 16, 24 or 32 were expected");
     }
-    if (compression == Compression::bit_fields) {
+    if (header.compression == Compression::bit_fields) {
         if (layout.bits_per_pixel != 16 && layout.bits_per_pixel != 32)
             return {};
-        const auto channels = read_channels(head);
+        const auto channels = read_channels(head, header.masks_begin);
         if (!channels)
             return {};
         layout.channels = *channels;

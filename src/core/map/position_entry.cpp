@@ -6,6 +6,7 @@
 #include "map/position_columns.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 
 namespace map {
@@ -27,35 +28,40 @@ void step_variant(data::ProvinceTable& provinces, int province, data::FileColumn
     write(provinces, province, column, data::to_text(variant >= last_variant ? 0 : variant + 1));
 }
 
-void place(data::ProvinceTable& provinces, const PositionColumns& columns, const Click& click,
-           const Maps& maps) {
-    const auto x = data::to_text(maps.x_offset + click.press_x);
+/// Returns the column of the clicked province as the place of an error in a sum.
+std::string place_of_sum(int province, data::FileColumn column) {
+    return "province " + std::to_string(province) + ", " + std::string(data::header(column)) +
+           ", map offset and press added";
+}
+
+void write_position(data::ProvinceTable& provinces, const PositionColumns& columns,
+                    const Click& click, const Maps& maps) {
+    const double x = maps.x_offset + click.press_x;
+    if (!std::isfinite(x))
+        throw data::RunTimeError(data::ErrorNumber::overflow,
+                                 place_of_sum(click.province, columns.x) +
+                                     ": a number of at most 308 digits was expected");
     const auto y =
-        data::to_int16(maps.y_offset + click.press_y,
-                       "province " + std::to_string(click.province) + ", " +
-                           std::string(data::header(columns.y)) + ", map offset and press added");
-    write(provinces, click.province, columns.x, x);
+        data::to_int16(maps.y_offset + click.press_y, place_of_sum(click.province, columns.y));
+    write(provinces, click.province, columns.x, data::to_text(x));
     write(provinces, click.province, columns.y, std::to_string(y));
 }
 
-bool press_left(const PositionColumns& columns, const Click& click, const Maps& maps,
+void press_left(const PositionColumns& columns, const Click& click, const Maps& maps,
                 PortPlacement& port, data::ProvinceTable& provinces) {
     if (columns.mode == Mode::port && port.stage == 1) {
         write(provinces, port.province, data::column::port_sea, std::to_string(click.province));
         port.stage = 0;
-        return true;
+        return;
     }
-    place(provinces, columns, click, maps);
+    write_position(provinces, columns, click, maps);
     if (columns.mode == Mode::dessin)
         step_variant(provinces, click.province, columns.variant());
-    if (columns.mode == Mode::port) {
+    if (columns.mode == Mode::port)
         port = {1, click.province};
-        return false; // redrawn once its sea is known
-    }
-    return true;
 }
 
-bool press_right(const PositionColumns& columns, const Click& click, PortPlacement& port,
+void press_right(const PositionColumns& columns, const Click& click, PortPlacement& port,
                  data::ProvinceTable& provinces) {
     if (columns.mode == Mode::port) {
         write(provinces, click.province, data::column::port_sea, "0");
@@ -63,12 +69,11 @@ bool press_right(const PositionColumns& columns, const Click& click, PortPlaceme
     }
     write(provinces, click.province, columns.x, none);
     write(provinces, click.province, columns.y, none);
-    return true;
 }
 
 } // namespace
 
-bool enter_position(Mode mode, const Click& click, const Maps& maps, PortPlacement& port,
+void enter_position(Mode mode, const Click& click, const Maps& maps, PortPlacement& port,
                     data::ProvinceTable& provinces) {
     const auto* columns = std::find_if(
         position_columns.begin(), position_columns.end(), [&](const PositionColumns& row) {
@@ -76,12 +81,13 @@ bool enter_position(Mode mode, const Click& click, const Maps& maps, PortPlaceme
                    (row.drawing == PositionColumns::no_drawing || row.drawing == click.shift);
         });
     if (columns == position_columns.end() || click.button == Button::other)
-        return false;
+        return;
     if (click.province > data::last_province)
         throw no_such_province(click.province);
     if (click.button == Button::left)
-        return press_left(*columns, click, maps, port, provinces);
-    return press_right(*columns, click, port, provinces);
+        press_left(*columns, click, maps, port, provinces);
+    else
+        press_right(*columns, click, port, provinces);
 }
 
 } // namespace map

@@ -27,10 +27,10 @@ struct Click {
     int province; // identifier at the release
 };
 
-/// Does what a click does in a position-entry mode, and returns whether the maps must be redrawn
-/// for it. Throws overflow for a Y outside 16 bits and subscript out of range for a province above
-/// 2018; nothing is written then.
-bool enter_position(Mode mode, const Click& click, const Maps& maps, PortPlacement& port,
+/// Does what a click does in a position-entry mode. Throws overflow for a Y outside 16 bits and for
+/// an X that is no decimal number, subscript out of range for a province above 2018; nothing is
+/// written then.
+void enter_position(Mode mode, const Click& click, const Maps& maps, PortPlacement& port,
                     data::ProvinceTable& provinces);
 
 } // namespace map

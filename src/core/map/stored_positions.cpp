@@ -3,6 +3,8 @@
 #include "data/numbers.h"
 #include "map/position_columns.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <optional>
 #include <string>
@@ -11,12 +13,12 @@ namespace map {
 
 namespace {
 
-/// Returns the stored coordinate; nothing for an empty or a negative one.
-std::optional<double> coordinate(const std::string& cell) {
-    const double number = data::leading_number(cell);
-    if (cell.empty() || number < 0)
-        return {};
-    return number;
+/// The pairs that stand for no position, both coordinates alike. Any other number may be one: with
+/// a negative map offset the stored numbers are negative, too.
+constexpr std::array none = {-1.0, -100.0};
+
+bool is_none(double x, double y) {
+    return x == y && std::find(none.begin(), none.end(), x) != none.end();
 }
 
 /// Nothing lies farther out: no surface is larger, and a whole number of pixels stays exact.
@@ -25,11 +27,15 @@ constexpr double farthest = 1 << 24;
 std::optional<StoredPosition> position(const data::ProvinceTable& provinces,
                                        const PositionColumns& columns, const Maps& maps,
                                        int province) {
-    const auto x = coordinate(provinces.cell(province, data::table_column(columns.x)));
-    const auto y = coordinate(provinces.cell(province, data::table_column(columns.y)));
-    if (!x || !y)
+    const std::string& x_cell = provinces.cell(province, data::table_column(columns.x));
+    const std::string& y_cell = provinces.cell(province, data::table_column(columns.y));
+    if (x_cell.empty() || y_cell.empty())
         return {};
-    const StoredPosition on_map{province, columns.drawing, *x - maps.x_offset, *y - maps.y_offset};
+    const double x = data::leading_number(x_cell);
+    const double y = data::leading_number(y_cell);
+    if (is_none(x, y))
+        return {};
+    const StoredPosition on_map{province, columns.drawing, x - maps.x_offset, y - maps.y_offset};
     if (!(std::abs(on_map.x) <= farthest && std::abs(on_map.y) <= farthest))
         return {};
     return on_map;

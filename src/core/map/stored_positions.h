@@ -24,8 +24,8 @@ struct StoredPosition {
     double y;
 };
 
-/// Returns the province's positions that the mode places; one that is empty, negative or
-/// beyond all maps is none.
+/// Returns the province's positions that the mode places; a pair that is empty, -1 or -100, or that
+/// lies beyond all maps, is none.
 /// Throws subscript out of range.
 std::vector<StoredPosition> positions_of(const data::ProvinceTable& provinces, Mode mode,
                                          const Maps& maps, int province);

@@ -1,10 +1,12 @@
 #include "map/bitmap_cache.h"
 
+#include "base/files.h"
+#include "base/qt_text.h"
 #include "base/stored_path.h"
+#include "map/decode_image.h"
+#include "map/image_error.h"
 
-#include <QDir>
 #include <QFileInfo>
-#include <QImageReader>
 
 #include <algorithm>
 
@@ -12,11 +14,13 @@ namespace map {
 
 namespace {
 
+constexpr const char* no_opaque_pixel =
+    "all pixels have the colour of the top left one, which is transparent; a frame with another "
+    "colour was expected";
+
 /// Makes every pixel of the colour that the top left pixel of the bitmap has transparent.
-QImage with_transparency(const QImage& frame) {
-    QImage image = frame
-                       .convertToFormat(QImage::Format_RGB32) // opaque, whatever the file says
-                       .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+QImage with_transparency(const QImage& opaque) {
+    QImage image = opaque.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     const QRgb transparent = image.isNull() ? 0 : image.pixel(0, 0);
     for (int y = 0; y < image.height(); ++y) {
         auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
@@ -25,39 +29,48 @@ QImage with_transparency(const QImage& frame) {
     return image;
 }
 
-Bitmap read_first_frame(const QString& path, int frames) {
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    const QImage image = reader.read();
-    const int width = std::max(image.width() / std::max(frames, 1), 1);
-    Bitmap bitmap;
-    if (!image.isNull())
-        bitmap.image = with_transparency(image.copy(0, 0, width, image.height()));
-    if (bitmap.image.isNull())
-        bitmap.problem = QDir::toNativeSeparators(path) + ": " + reader.errorString();
-    return bitmap;
+bool has_opaque_pixel(const QImage& image) {
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        if (std::any_of(row, row + image.width(), [](QRgb pixel) { return pixel != 0; }))
+            return true;
+    }
+    return false;
+}
+
+Bitmap read_first_frame(const std::string& path, int frames) {
+    try {
+        const QImage all = decode_image(path);
+        const int width = std::max(all.width() / std::max(frames, 1), 1);
+        QImage frame = with_transparency(all.copy(0, 0, width, all.height()));
+        if (!has_opaque_pixel(frame))
+            throw image_error(base::shown_path(path) + ": " + no_opaque_pixel);
+        return {frame, {}};
+    } catch (const data::RunTimeError& error) {
+        return {{}, base::to_qstring(error.place())};
+    }
 }
 
 } // namespace
 
 const Bitmap& BitmapCache::first_frame(const std::string& path, int frames) {
-    Kept& kept = kept_[{path, frames}];
-    if (kept.looked_at == round_)
-        return kept.bitmap;
-    const bool is_new = kept.looked_at == 0;
-    kept.looked_at = round_;
+    CachedBitmap& cached = cached_[{path, frames}];
+    if (cached.looked_at == round_)
+        return cached.bitmap;
+    const bool is_new = cached.looked_at == 0;
+    cached.looked_at = round_;
 
     if (is_new)
-        kept.native_path = base::native_path(path);
-    const QFileInfo file(kept.native_path);
+        cached.native_path = base::native_path(path);
+    const QFileInfo file(cached.native_path);
     const QDateTime modified = file.lastModified();
     const qint64 size = file.exists() ? file.size() : -1;
-    if (is_new || modified != kept.modified || size != kept.size) {
-        kept.modified = modified;
-        kept.size = size;
-        kept.bitmap = read_first_frame(kept.native_path, frames);
+    if (is_new || modified != cached.modified || size != cached.size) {
+        cached.modified = modified;
+        cached.size = size;
+        cached.bitmap = read_first_frame(path, frames);
     }
-    return kept.bitmap;
+    return cached.bitmap;
 }
 
 } // namespace map

@@ -12,8 +12,8 @@ namespace map {
 
 /// What a bitmap file shows on the map.
 struct Bitmap {
-    QImage image;    // null when the file cannot be read
-    QString problem; // why not, with the file
+    QImage image;    // null when there is nothing to show
+    QString problem; // why, with the file
 };
 
 /// Bitmaps that are read once and kept until their file changes.
@@ -24,11 +24,11 @@ class BitmapCache {
     /// least one pixel wide. The reference stays valid. Never throws.
     const Bitmap& first_frame(const std::string& path, int frames);
 
-    /// Makes each bitmap's file be looked at again, once, for changes.
-    void expect_changes() { ++round_; }
+    /// Lets each bitmap's file be looked at again, once, for changes.
+    void look_again() { ++round_; }
 
   private:
-    struct Kept {
+    struct CachedBitmap {
         QString native_path; // to look for it in another letter case takes a listing of the folder
         Bitmap bitmap;
         QDateTime modified;
@@ -36,7 +36,7 @@ class BitmapCache {
         unsigned looked_at = 0;
     };
 
-    std::map<std::pair<std::string, int>, Kept> kept_; // by path and frames
+    std::map<std::pair<std::string, int>, CachedBitmap> cached_; // by path and frames
     unsigned round_ = 1;
 };
 

@@ -2,14 +2,13 @@
 
 #include "base/messages.h"
 #include "data/numbers.h"
+#include "map/map_scroll_area.h"
 #include "map/picture.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -19,8 +18,7 @@ namespace map {
 
 namespace {
 
-constexpr int scroll_step = 40; // pixels for an arrow key; a wheel's notch is three
-constexpr int dot_size = 10;    // pixels
+constexpr int dot_size = 10; // pixels
 
 std::optional<MapImage> open_optional(const std::string& path) {
     if (path.empty())
@@ -58,7 +56,7 @@ Form1::Form1(shell::Session& session, QWidget* parent)
       map_2_(open_optional(session.maps.map_2_path)),
       id_map_(session.maps.id_map_path),
       overlay_(session),
-      scroll_area_(new QScrollArea(this)),
+      scroll_area_(new MapScrollArea(this)),
       surfaces_(new QWidget) {
     setObjectName(QStringLiteral("Form1"));
     surfaces_->setAttribute(Qt::WA_OpaquePaintEvent); // the visible surface covers it
@@ -67,29 +65,27 @@ Form1::Form1(shell::Session& session, QWidget* parent)
         add_picture(ShownMap::map_2, "Picture2", *map_2_);
     add_picture(ShownMap::id_map, "Picture_id", id_map_);
 
-    scroll_area_->setFrameShape(QFrame::NoFrame);
-    scroll_area_->setFocusPolicy(Qt::NoFocus); // the surface has it
-    scroll_area_->horizontalScrollBar()->setSingleStep(scroll_step);
-    scroll_area_->verticalScrollBar()->setSingleStep(scroll_step);
     scroll_area_->setWidget(surfaces_);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(scroll_area_);
 
-    overlay_.on_problem = [this](const QString& text) { emit problem(text); };
+    connect(&overlay_, &OverlayPreview::problem, this, &Form1::tell);
+    connect(scroll_area_, &MapScrollArea::tabbed, this, &Form1::tabbed);
     session_.port_placement.stage = 0;
     show_map(ShownMap::map_1);
 }
 
 void Form1::add_picture(ShownMap which, const char* name, const MapImage& image) {
     auto* picture = new Picture(
-        image, [this](QPainter& painter, const QRect& exposed) { draw_above(painter, exposed); },
+        image, [this](QPainter& painter, const QRegion& exposed) { draw_above(painter, exposed); },
         surfaces_);
     picture->setObjectName(QString::fromLatin1(name));
     connect(picture, &Picture::pressed, this, &Form1::press);
     connect(picture, &Picture::moved, this, &Form1::move);
     connect(picture, &Picture::released, this, &Form1::release);
-    pictures_.at(static_cast<std::size_t>(which)) = picture;
+    connect(picture, &Picture::problem, this, &Form1::tell);
+    pictures_[which] = picture;
 }
 
 QSize Form1::sizeHint() const {
@@ -97,7 +93,7 @@ QSize Form1::sizeHint() const {
 }
 
 void Form1::show_map(ShownMap which) {
-    Picture* shown = pictures_.at(static_cast<std::size_t>(which));
+    Picture* shown = pictures_[which];
     if (shown == nullptr)
         return;
     // A surface that is hidden with the focus on it would leave the scrolling to Qt.
@@ -110,19 +106,33 @@ void Form1::show_map(ShownMap which) {
             picture->setVisible(picture == shown);
     }
     surfaces_->resize(shown->size());
+    told_.clear();
     work_out_dots();
 }
 
-void Form1::refresh() {
+void Form1::clear_graphique() {
     for (const ShownMap which : {ShownMap::map_2, ShownMap::map_1, ShownMap::id_map}) {
-        if (Picture* picture = pictures_.at(static_cast<std::size_t>(which)))
+        if (Picture* picture = pictures_[which])
             picture->update();
     }
 }
 
 void Form1::selection_or_mode_changed() {
+    told_.clear();
     work_out_dots();
-    refresh();
+    clear_graphique();
+}
+
+void Form1::graphics_changed() {
+    told_.clear();
+    clear_graphique();
+}
+
+void Form1::tell(const QString& reason) {
+    if (reason.isEmpty() || told_.contains(reason))
+        return;
+    told_.insert(reason);
+    emit problem(reason);
 }
 
 // --- the pointer
@@ -130,18 +140,16 @@ void Form1::selection_or_mode_changed() {
 void Form1::press(const QMouseEvent& event) {
     pressed_ = event.position();
     if (event.button() == Qt::MiddleButton)
-        drag_ = Drag{event.globalPosition().toPoint(),
-                     {scroll_area_->horizontalScrollBar()->value(),
-                      scroll_area_->verticalScrollBar()->value()}};
+        drag_ = Drag{event.globalPosition().toPoint(), scroll_area_->corner()};
 }
 
 void Form1::move(const QMouseEvent& event) {
     if (drag_ && event.buttons().testFlag(Qt::MiddleButton))
-        scroll(event.globalPosition().toPoint());
+        drag_to(event.globalPosition().toPoint());
     if (event.buttons() != Qt::NoButton)
         return;
-    if (const auto place = place_at(event.position()))
-        point_at(place->province);
+    if (const auto pointed_at = id_map_point(event.position()))
+        point_at(pointed_at->identifier);
 }
 
 void Form1::release(const QMouseEvent& event) {
@@ -153,64 +161,58 @@ void Form1::release(const QMouseEvent& event) {
     click(event);
 }
 
-void Form1::scroll(const QPoint& pointer) {
+void Form1::drag_to(const QPoint& pointer) {
     const QPoint way = pointer - drag_->pointer;
     drag_->moved = drag_->moved || way.manhattanLength() >= QApplication::startDragDistance();
     if (drag_->moved)
-        scroll_to(drag_->scrolled - way);
-}
-
-void Form1::scroll_to(const QPoint& corner) {
-    scroll_area_->horizontalScrollBar()->setValue(corner.x());
-    scroll_area_->verticalScrollBar()->setValue(corner.y());
+        scroll_area_->scroll_to(drag_->scrolled - way);
 }
 
 void Form1::keyPressEvent(QKeyEvent* event) {
     // The scroll area takes the arrow and page keys before.
     if (event->key() == Qt::Key_Home)
-        scroll_to({0, 0});
+        scroll_area_->scroll_to({0, 0});
     else if (event->key() == Qt::Key_End)
-        scroll_to({surfaces_->width(), surfaces_->height()});
+        scroll_area_->scroll_to({surfaces_->width(), surfaces_->height()});
     else
         QWidget::keyPressEvent(event);
 }
 
 void Form1::click(const QMouseEvent& event) {
-    const auto place = place_at(event.position());
-    if (!place)
+    const auto clicked = id_map_point(event.position());
+    if (!clicked)
         return;
+    if (session_.mode == Mode::normal) {
+        select(*clicked, shift_state(event.modifiers()));
+        return;
+    }
     try {
-        if (session_.mode == Mode::normal)
-            select(place->province, shift_state(event.modifiers()));
-        else
-            enter_position(event, place->province);
+        enter_position(event, clicked->identifier);
     } catch (const data::RunTimeError& error) {
         if (error.number() != data::ErrorNumber::subscript_out_of_range)
             throw;
-        base::show_error(
-            session_, this,
-            error.within(place_on_id_map(place->point.x(), place->point.y(), place->colour)));
+        base::show_error(session_, this, error.within(clicked->as_place()));
     }
 }
 
-void Form1::select(int province, ShiftState shift) {
-    if (shift != 0 && shift != ctrl_key)
-        return;
-    if (province > data::last_province)
-        throw no_such_province(province);
-    emit province_clicked(province, shift == ctrl_key);
+void Form1::select(const IdMapPoint& clicked, ShiftState shift) {
+    if (shift == 0 || shift == ctrl_key)
+        emit province_clicked(clicked.identifier, shift == ctrl_key, clicked.as_place());
 }
 
 void Form1::enter_position(const QMouseEvent& event, int province) {
     const Click click{button_of(event.button()), shift_state(event.modifiers()), pressed_.x(),
                       data::to_int16(pressed_.y(), "Y of the press on the map"), province};
-    const QRect before = session_.mode == Mode::port ? overlay_.bounds(province) : QRect();
-    if (map::enter_position(session_.mode, click, session_.maps, session_.port_placement,
-                            session_.provinces)) {
-        refresh();
-    } else { // the port that waits for its sea has moved, too
+    const PortPlacement& port = session_.port_placement;
+    const bool sea_was_awaited = port.stage == 1;
+    const QRect before = overlay_.bounds(province);
+    map::enter_position(session_.mode, click, session_.maps, session_.port_placement,
+                        session_.provinces);
+    if (port.stage == 1 && !sea_was_awaited) { // only the port has moved, which waits for its sea
         update_shown(before);
         update_shown(overlay_.bounds(province));
+    } else {
+        clear_graphique();
     }
 }
 
@@ -230,13 +232,15 @@ void Form1::point_at(int province) {
     emit pointed(province);
 }
 
-std::optional<Form1::Place> Form1::place_at(const QPointF& position) const {
+std::optional<Form1::IdMapPoint> Form1::id_map_point(const QPointF& position) {
     const QPoint point(static_cast<int>(std::floor(position.x())),
                        static_cast<int>(std::floor(position.y())));
-    const auto colour = id_map_.colour_at(point);
+    MapReader reader(id_map_);
+    const auto colour = reader.colour_at(point);
+    tell(reader.problem());
     if (!colour)
         return {};
-    return Place{point, *colour, province_of(*colour)};
+    return IdMapPoint{point, *colour, province_of(*colour)};
 }
 
 // --- the selection dots
@@ -250,13 +254,15 @@ void Form1::work_out_dots() {
     dots_ = SelectionDots(
         map_1_.size().width(), map_1_.size().height(), session_.selection,
         [&reader](int y, std::span<Pixel> pixels) { reader.read_row(y, 0, dot_spacing, pixels); });
+    tell(reader.problem());
     if (dots_.foreign_point() && !std::exchange(foreign_point_reported_, true))
         // What was begun, be it the opening of the maps or a new selection, is finished first.
         QMetaObject::invokeMethod(
-            this, [this, point = *dots_.foreign_point()] { report(point); }, Qt::QueuedConnection);
+            this, [this, point = *dots_.foreign_point()] { show_foreign_point(point); },
+            Qt::QueuedConnection);
 }
 
-void Form1::report(const ForeignPoint& point) {
+void Form1::show_foreign_point(const ForeignPoint& point) {
     base::show_error(
         session_, this,
         no_such_province(point.identifier).within(place_on_id_map(point.x, point.y, point.colour)));
@@ -281,11 +287,15 @@ void Form1::draw_dots(QPainter& painter, const QRect& exposed) const {
     }
 }
 
-void Form1::draw_above(QPainter& painter, const QRect& exposed) {
-    if (session_.mode == Mode::normal)
-        draw_dots(painter, exposed);
-    else
-        overlay_.paint(painter, exposed, pointed_province_);
+void Form1::draw_above(QPainter& painter, const QRegion& exposed) {
+    if (session_.mode != Mode::normal) {
+        overlay_.ajout_graph(painter, exposed, pointed_province_);
+        return;
+    }
+    for (const QRect& rectangle : exposed) {
+        painter.setClipRect(rectangle); // round dots that are drawn twice have darker edges
+        draw_dots(painter, rectangle);
+    }
 }
 
 } // namespace map

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/indexed_array.h"
 #include "map/map_image.h"
 #include "map/overlay_preview.h"
 #include "map/position_entry.h"
@@ -9,15 +10,15 @@
 
 #include <QPoint>
 #include <QPointF>
+#include <QSet>
 #include <QWidget>
 
-#include <array>
 #include <optional>
-
-class QScrollArea;
+#include <string>
 
 namespace map {
 
+class MapScrollArea;
 class Picture;
 
 /// The map window: shows one of the maps, and turns clicks on it into selections and positions.
@@ -38,18 +39,24 @@ class Form1 : public QWidget {
     void show_map(ShownMap which);
 
     /// Redraws the maps from the current data.
-    void refresh();
+    void clear_graphique();
 
     /// Redraws the maps for another selection or another mode, which both change the dots.
     void selection_or_mode_changed();
 
+    /// Redraws the maps for other graphics, or another choice among them.
+    void graphics_changed();
+
   signals:
     /// The pointer moved over the province while no button was held.
     void pointed(int province);
-    /// The province was clicked in normal mode: to be added to the selection, or to replace it.
-    void province_clicked(int province, bool add);
-    /// The preview could not show something.
+    /// The identifier was clicked in normal mode: to be added to the selection, or to replace it.
+    /// `place` is the point and its colour, as the place of an error for one above 2018.
+    void province_clicked(int identifier, bool add, const std::string& place);
+    /// Why a map or a graphic cannot be shown; once until mode, maps or graphics change.
     void problem(const QString& text);
+    /// Tab, or Shift+Tab when not `forward`, is to move the focus out of the map.
+    void tabbed(bool forward);
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -63,28 +70,30 @@ class Form1 : public QWidget {
     };
 
     /// What the ID map says about a point.
-    struct Place {
+    struct IdMapPoint {
         QPoint point;
         Colour colour = 0;
-        int province = 0;
+        int identifier = 0;
+
+        std::string as_place() const { return place_on_id_map(point.x(), point.y(), colour); }
     };
 
     void add_picture(ShownMap which, const char* name, const MapImage& image);
     void press(const QMouseEvent& event);
     void move(const QMouseEvent& event);
     void release(const QMouseEvent& event);
-    void scroll(const QPoint& pointer);
-    void scroll_to(const QPoint& corner);
+    void drag_to(const QPoint& pointer);
     void click(const QMouseEvent& event);
-    void select(int province, ShiftState shift);
+    void select(const IdMapPoint& clicked, ShiftState shift);
     void enter_position(const QMouseEvent& event, int province);
     void update_shown(const QRect& changed);
     void point_at(int province);
-    std::optional<Place> place_at(const QPointF& position) const;
+    std::optional<IdMapPoint> id_map_point(const QPointF& position);
     void work_out_dots();
-    void report(const ForeignPoint& point);
+    void show_foreign_point(const ForeignPoint& point);
     void draw_dots(QPainter& painter, const QRect& exposed) const;
-    void draw_above(QPainter& painter, const QRect& exposed);
+    void draw_above(QPainter& painter, const QRegion& exposed);
+    void tell(const QString& reason);
 
     shell::Session& session_;
     MapImage map_1_;
@@ -95,9 +104,10 @@ class Form1 : public QWidget {
     SelectionDots dots_;
     bool foreign_point_reported_ = false;
 
-    QScrollArea* scroll_area_;
+    MapScrollArea* scroll_area_;
     QWidget* surfaces_;
-    std::array<Picture*, 3> pictures_ = {};
+    data::IndexedArray<ShownMap, Picture*, 3> pictures_ = {};
+    QSet<QString> told_; // reasons, since mode, maps or graphics changed
 
     QPointF pressed_; // pixels
     std::optional<Drag> drag_;

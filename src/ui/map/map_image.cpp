@@ -4,9 +4,10 @@
 #include "base/qt_text.h"
 #include "base/stored_path.h"
 #include "data/run_time_error.h"
+#include "map/decode_image.h"
 
+#include <QDir>
 #include <QFileInfo>
-#include <QImageReader>
 
 #include <algorithm>
 #include <array>
@@ -18,21 +19,11 @@ namespace {
 
 constexpr Pixel unreadable = 0xFF808080;
 
-[[noreturn]] void fail(const std::string& reason) {
-    throw data::RunTimeError(data::ErrorNumber::path_file_access, reason);
-}
-
-QImage decode(const QString& file_name) {
-    QImageReader::setAllocationLimit(0); // maps are larger than what Qt takes for reasonable
-    QImageReader reader(file_name);
-    reader.setDecideFormatFromContent(true);
-    QImage image = reader.read();
-    if (image.isNull())
-        fail("a bitmap or another image was expected (" + base::to_bytes(reader.errorString()) +
-             ")");
-    image.convertTo(QImage::Format_RGB32);
-    return image;
-}
+// Why a map is grey.
+constexpr const char* other_kind =
+    "the file is no longer an uncompressed bitmap, as it was when the maps were opened";
+constexpr const char* other_size = "the bitmap has %1 x %2 pixels now, %3 x %4 were expected";
+constexpr const char* ends_early = "the file ends before the pixels of row %1";
 
 QSize size_of(const BitmapLayout& layout) {
     return {layout.width, layout.height};
@@ -42,53 +33,73 @@ QSize size_of(const BitmapLayout& layout) {
 
 MapImage::MapImage(std::string_view path)
     : file_name_(base::native_path(path)), head_(base::read_file(path, bitmap_head_size)) {
+    std::optional<BitmapLayout> layout;
     try {
-        if (head_.empty())
-            fail("the file is empty, an image was expected");
         const auto file_size = static_cast<std::uint64_t>(QFileInfo(file_name_).size());
-        if (auto layout = read_bitmap_layout(head_, file_size)) {
-            layout_ = std::move(*layout);
-            size_ = size_of(layout_);
-        } else {
-            decoded_ = decode(file_name_);
-            size_ = decoded_.size();
-        }
+        layout = read_bitmap_layout(head_, file_size);
     } catch (const data::RunTimeError& error) {
         throw error.within(base::shown_path(path));
     }
-}
-
-std::optional<Colour> MapImage::colour_at(QPoint point) const {
-    if (!QRect({0, 0}, size_).contains(point))
-        return {};
-    Pixel pixel = no_pixel;
-    if (!MapReader(*this).read_row(point.y(), point.x(), 1, {&pixel, 1}))
-        return {};
-    return pixel & 0xFFFFFF;
+    if (layout) {
+        layout_ = std::move(*layout);
+        size_ = size_of(layout_);
+    } else {
+        decoded_ = decode_image(path);
+        size_ = decoded_.size();
+    }
 }
 
 MapReader::MapReader(const MapImage& image) : image_(image) {
     if (!image.decoded_.isNull())
         return;
     file_.setFileName(image.file_name_);
-    if (!file_.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    if (!file_.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        note_problem(file_.errorString());
         return;
+    }
     std::array<char, bitmap_head_size> buffer = {};
     const qint64 read = file_.read(buffer.data(), buffer.size());
     const std::string_view head(buffer.data(), static_cast<std::size_t>(std::max<qint64>(read, 0)));
-    if (head == image.head_) {
+    if (head == image.head_)
         layout_ = &image.layout_;
-        return;
-    }
+    else
+        read_new_layout(head);
+}
+
+void MapReader::read_new_layout(std::string_view head) {
     try {
         // Half written perhaps: the rows that are there are worth showing.
         constexpr auto any_size = std::numeric_limits<std::uint64_t>::max();
         new_layout_ = read_bitmap_layout(head, any_size);
-    } catch (const data::RunTimeError&) {
+    } catch (const data::RunTimeError& error) {
+        note_problem(base::to_qstring(error.place()));
         return;
     }
-    if (new_layout_ && size_of(*new_layout_) == image.size_)
+    if (!new_layout_) {
+        note_problem(QString::fromLatin1(other_kind));
+    } else if (const QSize now = size_of(*new_layout_); now != image_.size_) {
+        note_problem(QString::fromLatin1(other_size)
+                         .arg(now.width())
+                         .arg(now.height())
+                         .arg(image_.size_.width())
+                         .arg(image_.size_.height()));
+    } else {
         layout_ = &*new_layout_;
+    }
+}
+
+void MapReader::note_problem(const QString& reason) {
+    if (problem_.isEmpty())
+        problem_ = QDir::toNativeSeparators(image_.file_name_) + ": " + reason;
+}
+
+std::optional<Colour> MapReader::colour_at(QPoint point) {
+    if (!QRect({0, 0}, image_.size_).contains(point))
+        return {};
+    Pixel pixel = no_pixel;
+    if (!read_row(point.y(), point.x(), 1, {&pixel, 1}))
+        return {};
+    return pixel & 0xFFFFFF;
 }
 
 bool MapReader::read_pixels(int y, int first_x, int step, std::span<Pixel> pixels) {
@@ -107,8 +118,11 @@ bool MapReader::read_pixels(int y, int first_x, int step, std::span<Pixel> pixel
     const FilePart part = part_of_row(*layout_, y, first_x, last_x);
     bytes_.resize(part.size);
     if (!file_.seek(static_cast<qint64>(part.begin)) ||
-        file_.read(bytes_.data(), static_cast<qint64>(part.size)) != static_cast<qint64>(part.size))
+        file_.read(bytes_.data(), static_cast<qint64>(part.size)) !=
+            static_cast<qint64>(part.size)) {
+        note_problem(QString::fromLatin1(ends_early).arg(y));
         return false;
+    }
     decode_pixels(*layout_, bytes_, first_x, step, pixels);
     return true;
 }

@@ -29,10 +29,6 @@ class MapImage {
     /// Returns the size in pixels.
     QSize size() const { return size_; }
 
-    /// Returns the colour of the point (pixels); nothing outside the image and where the file
-    /// cannot be read.
-    std::optional<Colour> colour_at(QPoint point) const;
-
   private:
     friend class MapReader;
 
@@ -54,11 +50,21 @@ class MapReader {
     /// outside or cannot be read.
     bool read_row(int y, int first_x, int step, std::span<Pixel> pixels);
 
+    /// Returns the colour of the point (pixels); nothing outside the image and where the file
+    /// cannot be read.
+    std::optional<Colour> colour_at(QPoint point);
+
     /// Fills the upper left corner of `target`, a 32-bit RGB image of the rectangle's size or
     /// larger, with the rectangle inside the image; grey where it cannot be read.
     void read(const QRect& rectangle, QImage& target);
 
+    /// Returns why something inside the image could not be read, with the file; empty while all
+    /// could.
+    const QString& problem() const { return problem_; }
+
   private:
+    void read_new_layout(std::string_view head);
+    void note_problem(const QString& reason);
     bool read_pixels(int y, int first_x, int step, std::span<Pixel> pixels);
 
     const MapImage& image_;
@@ -66,6 +72,7 @@ class MapReader {
     std::optional<BitmapLayout> new_layout_; // of a file that was changed since it was opened
     const BitmapLayout* layout_ = nullptr;   // null when the file fits no longer
     std::vector<char> bytes_;
+    QString problem_;
 };
 
 } // namespace map

@@ -1,6 +1,5 @@
 #include "map/overlay_preview.h"
 
-#include "base/qt_text.h"
 #include "base/stored_path.h"
 #include "data/columns.h"
 #include "data/numbers.h"
@@ -14,8 +13,6 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
-#include <utility>
-#include <vector>
 
 namespace map {
 
@@ -26,6 +23,18 @@ constexpr int outline_width = 3;
 constexpr int label_height = 14;
 constexpr int label_gap = 4; // between a port and the id of its sea
 constexpr int largest_shown_id = 32767;
+
+/// Why the marker stands for a picture.
+struct Reasons {
+    QString no_sprite_set =
+        QStringLiteral("The item that the graphics menu has checked holds no sprite set");
+    QString no_terrain_art = QStringLiteral("No folder with the complete terrain art was chosen");
+};
+
+const Reasons& reasons() {
+    static const Reasons texts;
+    return texts;
+}
 
 constexpr QColor pointed_colour(255, 255, 0);
 constexpr QColor label_colour(0, 0, 96);
@@ -59,7 +68,8 @@ QImage draw_marker() {
     return image;
 }
 
-QRect place(const QImage& image, QPoint origin, const StoredPosition& position) {
+/// Returns where the image lies whose pixel `origin` stands on the position.
+QRect picture_rect(const QImage& image, QPoint origin, const StoredPosition& position) {
     const QPoint pixel(static_cast<int>(std::floor(position.x)),
                        static_cast<int>(std::floor(position.y)));
     return {pixel - origin, image.size()};
@@ -82,22 +92,30 @@ QImage draw_label(int sea) {
 }
 
 /// Returns where the label stands beside the picture; empty for a label that is none.
-QRect label_place(const QRect& picture, const QImage& label) {
+QRect label_rect(const QRect& picture, const QImage& label) {
     return {{picture.right() + 1 + label_gap, picture.center().y() - label.height() / 2},
             label.size()};
 }
 
-QRect outline_place(const QRect& picture) {
+QRect outline_rect(const QRect& picture) {
     return picture.adjusted(-outline_width, -outline_width, outline_width, outline_width);
 }
 
-/// Returns all that may be painted for a thing with that picture and label.
+/// Returns all that may be painted for a graphic with that picture and label.
 QRect extent(const QRect& picture, const QImage& label) {
-    return outline_place(picture) | label_place(picture, label);
+    return outline_rect(picture) | label_rect(picture, label);
+}
+
+/// Returns where the positions lie whose graphics reach into the rectangle.
+Area area_reaching_into(const QRect& rectangle, const QRect& largest) {
+    return {static_cast<double>(rectangle.left()) - largest.right(),
+            static_cast<double>(rectangle.top()) - largest.bottom(),
+            static_cast<double>(rectangle.right()) - largest.left() + 1,
+            static_cast<double>(rectangle.bottom()) - largest.top() + 1};
 }
 
 void draw_outline(QPainter& painter, const QRect& picture, QColor colour) {
-    const QRect outer = outline_place(picture);
+    const QRect outer = outline_rect(picture);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(Qt::black, 1));
     painter.drawRect(outer.adjusted(0, 0, -1, -1));
@@ -111,32 +129,39 @@ void draw_outline(QPainter& painter, const QRect& picture, QColor colour) {
 OverlayPreview::OverlayPreview(const shell::Session& session)
     : session_(session), marker_(draw_marker()) {}
 
-void OverlayPreview::paint(QPainter& painter, const QRect& exposed, int pointed_province) {
+void OverlayPreview::ajout_graph(QPainter& painter, const QRegion& exposed, int pointed_province) {
     if (session_.mode == Mode::normal)
         return;
-    bitmaps_.expect_changes();
-    const auto& port = session_.port_placement;
-    const bool sea_is_awaited = session_.mode == Mode::port && port.stage == 1;
-
+    bitmaps_.look_again();
+    const QRect largest = largest_extent();
     painter.save();
-    std::vector<std::pair<QRect, QColor>> outlines; // above everything else
-    const auto positions =
-        positions_in(session_.provinces, session_.mode, session_.maps, area_reaching_into(exposed));
-    for (const auto& position : positions) {
-        const Look look = look_of(position);
-        report(look.problem);
-        const QRect picture = place(*look.image, look.origin, position);
-        painter.drawImage(picture.topLeft(), *look.image);
-        if (const QImage label = label_of(position.province); !label.isNull())
-            painter.drawImage(label_place(picture, label).topLeft(), label);
-        if (sea_is_awaited && position.province == port.province)
-            outlines.emplace_back(picture, waiting_colour);
-        else if (position.province == pointed_province)
-            outlines.emplace_back(picture, pointed_colour);
+    for (const QRect& rectangle : exposed) {
+        painter.setClipRect(rectangle);
+        Outlines outlines; // above everything else
+        for (const auto& position : positions_in(session_.provinces, session_.mode, session_.maps,
+                                                 area_reaching_into(rectangle, largest)))
+            ajout_graphique(painter, position, pointed_province, outlines);
+        for (const auto& [picture, colour] : outlines)
+            draw_outline(painter, picture, colour);
     }
-    for (const auto& [picture, colour] : outlines)
-        draw_outline(painter, picture, colour);
     painter.restore();
+}
+
+void OverlayPreview::ajout_graphique(QPainter& painter, const StoredPosition& position,
+                                     int pointed_province, Outlines& outlines) {
+    const Graphic graphic = graphic_of(position);
+    if (!graphic.problem.isEmpty())
+        emit problem(graphic.problem);
+    const QRect picture = picture_rect(*graphic.image, graphic.origin, position);
+    painter.drawImage(picture.topLeft(), *graphic.image);
+    if (const QImage label = label_of(position.province); !label.isNull())
+        painter.drawImage(label_rect(picture, label).topLeft(), label);
+
+    const auto& port = session_.port_placement;
+    if (session_.mode == Mode::port && port.stage == 1 && position.province == port.province)
+        outlines.emplace_back(picture, waiting_colour);
+    else if (position.province == pointed_province)
+        outlines.emplace_back(picture, pointed_colour);
 }
 
 QRect OverlayPreview::bounds(int province) const {
@@ -145,34 +170,36 @@ QRect OverlayPreview::bounds(int province) const {
         return covered;
     for (const auto& position :
          positions_of(session_.provinces, session_.mode, session_.maps, province)) {
-        const Look look = look_of(position);
-        covered |= extent(place(*look.image, look.origin, position), label_of(province));
+        const Graphic graphic = graphic_of(position);
+        covered |=
+            extent(picture_rect(*graphic.image, graphic.origin, position), label_of(province));
     }
     return covered;
 }
 
-OverlayPreview::Look OverlayPreview::look_of(const StoredPosition& position) const {
+OverlayPreview::Graphic OverlayPreview::graphic_of(const StoredPosition& position) const {
     if (const auto kind = sprite_kind(session_.mode))
-        return sprite_look(*kind);
-    return drawing_look(position);
+        return sprite_graphic(*kind);
+    return drawing_graphic(position);
 }
 
-OverlayPreview::Look OverlayPreview::sprite_look(gfx::SpriteKind kind) const {
+OverlayPreview::Graphic OverlayPreview::sprite_graphic(gfx::SpriteKind kind) const {
     const auto& rows = session_.graphics.sprites.of(kind).rows;
     const auto row = static_cast<std::size_t>(session_.graphics.previewed_row[kind]);
     if (row >= rows.size() || rows[row].bitmap_path.empty())
-        return marker_look(
-            QStringLiteral("The item that the graphics menu has checked holds no sprite set"));
+        return marker(reasons().no_sprite_set);
     const auto& sprite = rows[row];
     const Bitmap& bitmap = bitmaps_.first_frame(sprite.bitmap_path, sprite.frames);
     if (bitmap.image.isNull())
-        return marker_look(bitmap.problem);
+        return marker(bitmap.problem);
     return {&bitmap.image, {sprite.origin_x, sprite.origin_y}, {}};
 }
 
-OverlayPreview::Look OverlayPreview::drawing_look(const StoredPosition& position) const {
+OverlayPreview::Graphic OverlayPreview::drawing_graphic(const StoredPosition& position) const {
     if (!session_.graphics.shows_drawings)
-        return marker_look();
+        return marker();
+    if (!shows_drawings())
+        return marker(reasons().no_terrain_art);
     const auto cell = [&](data::FileColumn column) -> const std::string& {
         return session_.provinces.cell(position.province, data::table_column(column));
     };
@@ -180,8 +207,13 @@ OverlayPreview::Look OverlayPreview::drawing_look(const StoredPosition& position
         cell(data::column::terrain), cell(data::column::climate),
         cell(data::column::drawing_variant.at(static_cast<std::size_t>(position.drawing)))));
     if (art.image.isNull())
-        return marker_look(art.problem);
+        return marker(art.problem);
     return {&art.image, {art.image.width() / 2, art.image.height() / 2}, {}};
+}
+
+/// An art folder that turned out to be incomplete takes the menu's check mark with it.
+bool OverlayPreview::shows_drawings() const {
+    return session_.graphics.shows_drawings && session_.configuration.terrain_art_flag == 1;
 }
 
 const Bitmap& OverlayPreview::terrain_art(const std::string& file) const {
@@ -189,32 +221,23 @@ const Bitmap& OverlayPreview::terrain_art(const std::string& file) const {
                                 1);
 }
 
-/// Returns what the largest thing of the mode covers around a position at (0, 0).
+/// Returns what the largest graphic of the mode covers around a position at (0, 0).
 QRect OverlayPreview::largest_extent() const {
     const StoredPosition zero{0, PositionColumns::no_drawing, 0, 0};
     if (const auto kind = sprite_kind(session_.mode)) {
-        const Look sprite = sprite_look(*kind);
-        return extent(place(*sprite.image, sprite.origin, zero), label(largest_shown_id));
+        const Graphic sprite = sprite_graphic(*kind);
+        return extent(picture_rect(*sprite.image, sprite.origin, zero), label(largest_shown_id));
     }
-    QRect largest = place(marker_, marker_origin, zero);
-    if (session_.graphics.shows_drawings) {
+    QRect largest = picture_rect(marker_, marker_origin, zero);
+    if (shows_drawings()) {
         for (const auto type : gfx::terrain_types) {
             for (int variant = 0; variant < gfx::terrain_variants; ++variant) {
                 const QImage& art = terrain_art(gfx::terrain_art_file(type, variant)).image;
-                largest |= place(art, {art.width() / 2, art.height() / 2}, zero);
+                largest |= picture_rect(art, {art.width() / 2, art.height() / 2}, zero);
             }
         }
     }
-    return outline_place(largest);
-}
-
-/// Returns where the positions lie whose things reach into the rectangle.
-Area OverlayPreview::area_reaching_into(const QRect& exposed) const {
-    const QRect largest = largest_extent();
-    return {static_cast<double>(exposed.left()) - largest.right(),
-            static_cast<double>(exposed.top()) - largest.bottom(),
-            static_cast<double>(exposed.right()) - largest.left() + 1,
-            static_cast<double>(exposed.bottom()) - largest.top() + 1};
+    return outline_rect(largest);
 }
 
 /// Returns the id of the sea that the province's port opens to; null without one, and in every
@@ -234,14 +257,6 @@ QImage OverlayPreview::label(int sea) const {
     if (image.isNull())
         image = draw_label(sea);
     return image;
-}
-
-void OverlayPreview::report(const QString& problem) {
-    if (problem.isEmpty() || reported_.contains(problem))
-        return;
-    reported_.insert(problem);
-    if (on_problem)
-        on_problem(problem);
 }
 
 } // namespace map

@@ -6,13 +6,15 @@
 
 #include <QHash>
 #include <QImage>
+#include <QObject>
 #include <QPoint>
 #include <QRect>
-#include <QSet>
+#include <QRegion>
 #include <QString>
 
-#include <functional>
 #include <string>
+#include <utility>
+#include <vector>
 
 class QPainter;
 
@@ -20,43 +22,49 @@ namespace map {
 
 /// Shows on the map what the game draws at the positions that the mode places: the sprites of the
 /// previewed sets, the terrain drawings with their art, and a marker where there is no picture.
-class OverlayPreview {
+class OverlayPreview : public QObject {
+    Q_OBJECT
+
   public:
     /// The session must outlive the preview.
     explicit OverlayPreview(const shell::Session& session);
 
-    /// Draws what reaches into the rectangle (pixels of the map), the pointed province's things
+    /// Draws what reaches into the region (pixels of the map), the pointed province's graphics
     /// outlined; -1 for none. Never throws.
-    void paint(QPainter& painter, const QRect& exposed, int pointed_province);
+    void ajout_graph(QPainter& painter, const QRegion& exposed, int pointed_province);
 
-    /// Returns what painting the province's things covers, in pixels of the map; empty for none.
+    /// Returns what painting the province's graphics covers, in pixels of the map; empty for none.
     QRect bounds(int province) const;
 
-    /// Receives why a marker stands for a picture, in the user's terms; every reason once.
-    std::function<void(QString)> on_problem;
+  signals:
+    /// Why a marker stands for a picture, in the user's terms; for every marker that is painted.
+    void problem(const QString& reason);
 
   private:
     /// What stands for a position: an image, the pixel of it that lies on the position, and why it
     /// is the marker.
-    struct Look {
+    struct Graphic {
         const QImage* image;
         QPoint origin;
         QString problem;
     };
 
-    Look look_of(const StoredPosition& position) const;
-    Look sprite_look(gfx::SpriteKind kind) const;
-    Look drawing_look(const StoredPosition& position) const;
-    Look marker_look(const QString& problem = {}) const {
-        return {&marker_, marker_origin, problem};
-    }
+    /// Rectangles of graphics, with the colours of their outlines.
+    using Outlines = std::vector<std::pair<QRect, QColor>>;
+
+    void ajout_graphique(QPainter& painter, const StoredPosition& position, int pointed_province,
+                         Outlines& outlines);
+
+    Graphic graphic_of(const StoredPosition& position) const;
+    Graphic sprite_graphic(gfx::SpriteKind kind) const;
+    Graphic drawing_graphic(const StoredPosition& position) const;
+    Graphic marker(const QString& problem = {}) const { return {&marker_, marker_origin, problem}; }
+    bool shows_drawings() const;
     const Bitmap& terrain_art(const std::string& file) const;
 
     QRect largest_extent() const;
-    Area area_reaching_into(const QRect& exposed) const;
     QImage label_of(int province) const;
     QImage label(int sea) const;
-    void report(const QString& problem);
 
     static constexpr QPoint marker_origin{6, 6};
 
@@ -64,7 +72,6 @@ class OverlayPreview {
     QImage marker_;
     mutable BitmapCache bitmaps_;       // what it keeps is what the files hold
     mutable QHash<int, QImage> labels_; // by sea; to write a text costs many times an image
-    QSet<QString> reported_;
 };
 
 } // namespace map

@@ -35,8 +35,10 @@ void Picture::paintEvent(QPaintEvent* event) {
             reader.read(strip, strip_);
             painter.drawImage(strip.topLeft(), strip_, QRect({0, 0}, strip.size()));
         }
-        draw_above_(painter, exposed);
     }
+    draw_above_(painter, event->region());
+    if (!reader.problem().isEmpty())
+        emit problem(reader.problem());
 }
 
 } // namespace map

@@ -14,8 +14,8 @@ class Picture : public QWidget {
     Q_OBJECT
 
   public:
-    /// Draws what lies over the image within the rectangle (pixels).
-    using DrawAbove = std::function<void(QPainter&, const QRect&)>;
+    /// Draws what lies over the image within the region (pixels), and clips to it.
+    using DrawAbove = std::function<void(QPainter&, const QRegion&)>;
 
     /// The image must outlive the surface.
     Picture(const MapImage& image, DrawAbove draw_above, QWidget* parent);
@@ -24,6 +24,8 @@ class Picture : public QWidget {
     void pressed(const QMouseEvent& event);
     void moved(const QMouseEvent& event);
     void released(const QMouseEvent& event);
+    /// A part of the image could not be read, and is grey.
+    void problem(const QString& reason);
 
   protected:
     void paintEvent(QPaintEvent* event) override;

@@ -143,6 +143,7 @@ void MDIForm1::set_up_items(Run run) {
     for (const auto* name : position_items)
         action(name)->setEnabled(run == Run::later);
     check_mode();
+    group_previews();
     options();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/province_file.h"
+#include "data/run_time_error.h"
 #include "gfx/sprite_kind.h"
 #include "map/form1.h"
 #include "map/mode.h"
@@ -12,6 +13,7 @@
 #include <QStringList>
 
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -76,6 +78,8 @@ class MDIForm1 : public QMainWindow {
     void build_status_bar();
     void set_up_items(Run run);
 
+    /// Makes the items of each kind in the graphics menu one exclusive choice.
+    void group_previews();
     /// Sets up the graphics menu and enables what the loaded graphics allow.
     void options();
     /// Brings the menu and the map up to other graphics, or another choice among them.
@@ -85,7 +89,10 @@ class MDIForm1 : public QMainWindow {
     /// name that the table does not have.
     QAction* action(std::string_view name) const;
     void focus_selection_text();
-    void apply_selection();
+    /// Selects what the field names. An error that the caller knows better is shown instead of the
+    /// one that an identifier above 2018 leads to.
+    void apply_selection(const std::optional<data::RunTimeError>& known_error = {});
+    void select_clicked(int identifier, bool add, const std::string& place);
     void show_status_text(int number);
     void check_mode();
     void check_map(map::ShownMap shown);

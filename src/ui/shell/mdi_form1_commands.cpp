@@ -9,16 +9,19 @@
 #include "gfx/form2.h"
 #include "gfx/form3.h"
 #include "gfx/form4.h"
+#include "map/identification.h"
 #include "shell/frm_about.h"
 #include "shell/mdi_form1.h"
 #include "shell/recovery.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QCloseEvent>
 
 #include <algorithm>
 #include <array>
 #include <iostream>
+#include <vector>
 
 namespace shell {
 
@@ -40,6 +43,16 @@ constexpr std::array<PreviewMenu, 4> preview_menus = {{
 
 std::string item_name(std::string_view items, int number) {
     return std::string(items) + "(" + std::to_string(number) + ")";
+}
+
+bool holds_set(const gfx::Sprite& sprite) {
+    return !sprite.set_name.empty();
+}
+
+/// Returns the first row that holds a set; the first of all without one.
+int first_set(const std::vector<gfx::Sprite>& rows) {
+    const auto found = std::find_if(rows.begin(), rows.end(), holds_set);
+    return found == rows.end() ? 0 : static_cast<int>(found - rows.begin());
 }
 
 QString escaped(const std::string& set_name) {
@@ -127,31 +140,39 @@ void MDIForm1::toggle_drawings() {
 void MDIForm1::show_graphics() {
     options();
     if (map_)
-        map_->refresh();
+        map_->graphics_changed();
+}
+
+void MDIForm1::group_previews() {
+    for (const auto& menu : preview_menus) {
+        auto* group = new QActionGroup(this); // exclusive: one item of the kind is checked
+        for (int item = 1; item <= gfx::info(menu.kind).set_limit; ++item)
+            group->addAction(action(item_name(menu.items, item)));
+    }
 }
 
 void MDIForm1::options() {
     for (const auto& menu : preview_menus) {
         const auto& rows = session_.graphics.sprites.of(menu.kind).rows;
+        int& previewed = session_.graphics.previewed_row[menu.kind];
+        if (rows.at(static_cast<std::size_t>(previewed)).set_name.empty())
+            previewed = first_set(rows);
         for (int item = 1; item <= gfx::info(menu.kind).set_limit; ++item) {
             const std::string name = item_name(menu.items, item);
             const auto& set_name = rows.at(static_cast<std::size_t>(item - 1)).set_name;
             auto* entry = action(name);
             entry->setText(set_name.empty() ? entry->data().toString() : escaped(set_name));
             entry->setEnabled(!set_name.empty());
-            entry->setChecked(session_.graphics.previewed_row[menu.kind] == item - 1);
+            entry->setChecked(previewed == item - 1);
         }
-        const bool has_set = std::any_of(rows.begin(), rows.end(), [](const gfx::Sprite& sprite) {
-            return !sprite.set_name.empty();
-        });
-        if (has_set)
+        if (std::any_of(rows.begin(), rows.end(), holds_set))
             action(map::info(menu.mode).menu_item)->setEnabled(true);
     }
     const bool has_terrain_art = session_.configuration.terrain_art_flag == 1;
     if (has_terrain_art)
         action("dessin_menu")->setEnabled(true);
     action("dessin_graph")->setEnabled(has_terrain_art);
-    action("dessin_graph")->setChecked(session_.graphics.shows_drawings);
+    action("dessin_graph")->setChecked(has_terrain_art && session_.graphics.shows_drawings);
 }
 
 void MDIForm1::choose_language(int item) {
@@ -169,7 +190,16 @@ void MDIForm1::select(const std::string& text) {
     apply_selection();
 }
 
-void MDIForm1::apply_selection() {
+void MDIForm1::select_clicked(int identifier, bool add, const std::string& place) {
+    const std::string present = add ? panel_->selection_text() : std::string();
+    panel_->set_selection_text(editor::with_province(present, identifier));
+    if (identifier > data::last_province)
+        apply_selection(map::no_such_province(identifier).within(place));
+    else
+        apply_selection();
+}
+
+void MDIForm1::apply_selection(const std::optional<data::RunTimeError>& known_error) {
     const std::string text = panel_->selection_text();
     panel_->write_typed_text(); // a shortcut selects without taking the focus from a field
     if (!editor::is_well_formed(text))
@@ -179,7 +209,7 @@ void MDIForm1::apply_selection() {
         session_.selection.apply(text);
     } catch (const data::RunTimeError& error) {
         panel_->forget_shown(); // it still shows what was selected before
-        base::show_error(session_, this, error);
+        base::show_error(session_, this, known_error.value_or(error));
         return;
     }
     if (map_)

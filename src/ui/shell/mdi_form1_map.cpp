@@ -55,13 +55,12 @@ void MDIForm1::make_map_window() {
     map_ = map.get();
     map_frame_ = workspace_->addSubWindow(map.release());
     map_frame_->setAttribute(Qt::WA_DeleteOnClose);
+    map_frame_->setFocusPolicy(Qt::ClickFocus); // Tab is to reach the map, not its frame as well
     connect(map_, &map::Form1::pointed, this, [this](int province) {
         pointer_text_->setText(QStringLiteral("id = %1").arg(province));
     });
-    connect(map_, &map::Form1::province_clicked, this, [this](int province, bool add) {
-        const std::string present = add ? panel_->selection_text() : std::string();
-        select(editor::with_province(present, province));
-    });
+    connect(map_, &map::Form1::province_clicked, this, &MDIForm1::select_clicked);
+    connect(map_, &map::Form1::tabbed, this, [this](bool forward) { focusNextPrevChild(forward); });
     connect(map_, &map::Form1::problem, this, &MDIForm1::tell);
     action("carte_2")->setEnabled(map_->has_map_2());
     check_map(map::ShownMap::map_1);
@@ -74,6 +73,7 @@ void MDIForm1::show_map(map::ShownMap shown) {
     if (!map)
         return;
     map->show_map(shown);
+    map_frame_->setWindowState(map_frame_->windowState() & ~Qt::WindowMinimized);
     check_map(shown);
 }
 

@@ -49,12 +49,27 @@ TEST(Numbers, OverflowNamesThePlace) {
     }
 }
 
-TEST(Numbers, TextHasNoIdleDigits) {
-    EXPECT_EQ(data::to_text(10.25 + 120), "130.25");
-    EXPECT_EQ(data::to_text(120), "120");
-    EXPECT_EQ(data::to_text(-0.0), "0");
-    EXPECT_EQ(data::to_text(0.1 + 0.2), "0.3");
-    EXPECT_EQ(data::to_text(100000000), "100000000");
+TEST(Numbers, TextIsDecimalWithoutIdleDigits) {
+    const struct {
+        double number;
+        const char* text;
+    } cases[] = {
+        {10.25 + 120, "130.25"},
+        {120, "120"},
+        {-0.0, "0"},
+        {0.1 + 0.2, "0.3"},
+        {-6.5, "-6.5"},
+        {100000000, "100000000"},
+        {1e15 + 150, "1000000000000150"},
+        {-1e23, "-100000000000000000000000"},
+        {0.00001, "0.00001"},
+        {-0.0000125, "-0.0000125"},
+        {123456789012345.678, "123456789012346"},
+        {std::nan(""), "0"},
+    };
+    for (const auto& each : cases)
+        EXPECT_EQ(data::to_text(each.number), each.text);
+    EXPECT_EQ(data::to_text(INFINITY), "179769313486232" + std::string(294, '0'));
 }
 
 } // namespace

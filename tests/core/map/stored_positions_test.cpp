@@ -33,6 +33,9 @@ TEST(StoredPositions, AreThoseOfTheModeInTheArea) {
     put(table, 1, 47, "60.5", "150");
     put(table, 7, 41, "60.5", "150");
 
+    put(table, 8, 29, "-1", "-1");
+    put(table, 9, 29, "-100", "-100");
+
     const map::Area area{0, 0, 100, 100};
     EXPECT_EQ(text(positions_in(table, map::Mode::ville, maps, area)), "1/-1:20,20 2018/-1:0,0 ");
     EXPECT_EQ(text(positions_in(table, map::Mode::dessin, maps, area)), "7/1:50,50 1/3:50,50 ");
@@ -40,6 +43,13 @@ TEST(StoredPositions, AreThoseOfTheModeInTheArea) {
     EXPECT_EQ(text(positions_of(table, map::Mode::ville, maps, 2)), "2/-1:100,20 ");
     EXPECT_EQ(text(positions_of(table, map::Mode::dessin, maps, 1)), "1/3:50,50 ");
     EXPECT_EQ(text(positions_of(table, map::Mode::ville, maps, 6)), "");
+
+    // Only the two pairs mean none: with a negative offset the numbers of a position are negative.
+    const map::Maps shifted{"", "", "", -100, -110};
+    EXPECT_EQ(text(positions_in(table, map::Mode::ville, shifted, {0, 0, 110, 231})),
+              "3/-1:99,230 5/-1:101,210 ");
+    put(table, 8, 29, "-1", "-100");
+    EXPECT_EQ(text(positions_of(table, map::Mode::ville, shifted, 8)), "8/-1:99,10 ");
 }
 
 } // namespace

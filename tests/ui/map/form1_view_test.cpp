@@ -16,20 +16,6 @@ TEST_F(Form1, MarksWhereThingsStand) {
     EXPECT_EQ(seen().pixel(350, 250), paper);
 }
 
-/// Collects what a widget paints.
-class PaintedRegion : public QObject {
-  public:
-    explicit PaintedRegion(QWidget* widget) { widget->installEventFilter(this); }
-    QRegion region;
-
-  protected:
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::Paint)
-            region |= static_cast<QPaintEvent*>(event)->region();
-        return false;
-    }
-};
-
 TEST_F(Form1, RepaintsOnlyWhatThePointedProvinceChanges) {
     session.mode = Mode::ville;
     open();
@@ -105,12 +91,10 @@ TEST_F(Form1, ForeignColourAtAPointOfTheGridIsReportedOnce) {
     EXPECT_EQ(boxes.take_one(), "none");
 }
 
-TEST_F(Form1, ForeignColourUnderAClickEndsTheClickOnly) {
+TEST_F(Form1, ForeignColourUnderAClickPlacesNothing) {
     folder.write("id.bmp", id_map(41, 61));
     open();
     support::MessageBoxes boxes;
-    click({41, 61});
-    EXPECT_EQ(boxes.take().size(), 1U);
     session.mode = Mode::ville;
     click({41, 61});
     const std::string text = boxes.take_one();

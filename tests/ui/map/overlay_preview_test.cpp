@@ -37,7 +37,11 @@ class OverlayPreviewTest : public testing::Test {
         session.configuration.graphics_folder = folder.path();
         session.configuration.terrain_art_folder = folder.path();
         session.mode = Mode::ville;
-        preview.on_problem = [this](const QString& text) { problems += text; };
+        session.configuration.terrain_art_flag = 1;
+        QObject::connect(&preview, &map::OverlayPreview::problem, [this](const QString& text) {
+            if (!problems.contains(text))
+                problems += text;
+        });
     }
 
     void save(const QImage& image, const QString& name) {
@@ -65,7 +69,7 @@ class OverlayPreviewTest : public testing::Test {
         surface.fill(ground);
         QPainter painter(&surface);
         painter.setClipRect(exposed);
-        preview.paint(painter, exposed, pointed_province);
+        preview.ajout_graph(painter, exposed, pointed_province);
         return surface;
     }
 
@@ -110,7 +114,7 @@ TEST_F(OverlayPreviewTest, SpriteStandsWithItsOriginOnThePosition) {
     session.maps.y_offset = -5;
     place(1, city_x, "1050.25", "35");
     place(2018, city_x, "1070.25", "35");
-    place(3, city_x, "-1", "35");
+    place(3, city_x, "-1", "-1");
     place(4, city_x, "", "");
 
     const QImage surface = painted();
@@ -198,7 +202,7 @@ TEST_F(OverlayPreviewTest, FrameCountsOutOfReason) {
     }
 }
 
-TEST_F(OverlayPreviewTest, MarkerStaysWithoutAPictureAndSaysWhyOnce) {
+TEST_F(OverlayPreviewTest, MarkerStaysWithoutAPictureAndSaysWhy) {
     place(1, city_x, "20", "20");
     place(2, city_x, "60", "20");
     EXPECT_EQ(covered(painted()), marker(20, 20) | marker(60, 20));
@@ -207,7 +211,10 @@ TEST_F(OverlayPreviewTest, MarkerStaysWithoutAPictureAndSaysWhyOnce) {
     EXPECT_TRUE(problems[0].contains("no sprite set")) << problems[0].toStdString();
 
     folder.write("text.bmp");
-    for (const char* name : {"missing.bmp", "text.bmp", "bmp"}) {
+    save(sprite(6, 1, red), "transparent.bmp");
+    save(sprite(6, 4, red), "short.bmp");
+    ASSERT_TRUE(QFile::resize(folder.native("short.bmp"), 54 + 3 * 24));
+    for (const char* name : {"missing.bmp", "text.bmp", "bmp", "transparent.bmp", "short.bmp"}) {
         problems.clear();
         load_sprite(SpriteKind::ville, name, 3, 3, 1);
         EXPECT_EQ(covered(painted()), marker(20, 20) | marker(60, 20)) << name;
@@ -233,6 +240,22 @@ TEST_F(OverlayPreviewTest, BitmapIsReadAgainWhenItsFileChanges) {
 
     QFile::remove(file.fileName());
     EXPECT_EQ(covered(painted()), marker(20, 20));
+}
+
+TEST_F(OverlayPreviewTest, FilesAreLookedAtOncePerPainting) {
+    load_sprite(SpriteKind::ville, "b.bmp", 0, 0, 1);
+    place(1, city_x, "20", "20");
+    place(2, city_x, "60", "60");
+    // The file comes into being between the two rectangles of one painting.
+    QObject::connect(&preview, &map::OverlayPreview::problem,
+                     [&] { save(sprite(4, 4, red), "b.bmp"); });
+    QImage surface(view, QImage::Format_RGB32);
+    surface.fill(ground);
+    QPainter painter(&surface);
+    preview.ajout_graph(painter, QRegion(0, 0, 40, 40) + QRegion(40, 40, 40, 40), -1);
+    painter.end();
+    EXPECT_EQ(covered(surface), marker(20, 20) | marker(60, 60));
+    EXPECT_EQ(painted().pixel(60, 61), red);
 }
 
 TEST_F(OverlayPreviewTest, PointedProvinceIsOutlinedWithinItsBounds) {
@@ -296,6 +319,12 @@ TEST_F(OverlayPreviewTest, DrawingsAreCentredOnTheirPositions) {
     EXPECT_TRUE(problems.isEmpty());
 
     session.graphics.shows_drawings = true;
+    session.configuration.terrain_art_flag = 0; // the folder turned out to be incomplete
+    EXPECT_EQ(covered(painted()), marker(20, 20) | marker(60, 20));
+    EXPECT_EQ(problems.size(), 1);
+    problems.clear();
+
+    session.configuration.terrain_art_flag = 1;
     set(1, {40}, "5"); // there is no such file
     EXPECT_EQ(covered(painted().copy(0, 0, 40, 80)), marker(20, 20));
     ASSERT_EQ(problems.size(), 1);

@@ -1,0 +1,76 @@
+#include "map/decode_image.h"
+
+#include "base/files.h"
+#include "base/qt_text.h"
+#include "map/bitmap_file.h"
+#include "map/image_error.h"
+#include "map/run_lengths.h"
+
+#include <QBuffer>
+#include <QImageReader>
+
+#include <string>
+
+namespace map {
+
+namespace {
+
+/// A pixel takes four bytes; the largest maps have 140 million of them.
+constexpr qint64 most_megabytes = 2048;
+
+/// Qt takes bitmaps that are cut short, and fills the rest with any colour.
+void check_is_whole(std::string_view file) {
+    read_bitmap_layout(file.substr(0, bitmap_head_size), file.size());
+    check_run_lengths(file);
+}
+
+data::RunTimeError too_large(QSize size) {
+    return image_error("the image's " + std::to_string(size.width()) + " x " +
+                       std::to_string(size.height()) + " pixels take more memory than there is");
+}
+
+void check_size(QSize size) {
+    const qint64 megabytes = qint64{4} * size.width() * size.height() >> 20;
+    if (megabytes > most_megabytes)
+        throw image_error("an image of " + std::to_string(size.width()) + " x " +
+                          std::to_string(size.height()) + " pixels takes " +
+                          std::to_string(megabytes) + " MB of memory, at most " +
+                          std::to_string(most_megabytes) +
+                          " MB were expected; an uncompressed bitmap needs none");
+}
+
+QImage decode(const std::string& file) {
+    QImageReader::setAllocationLimit(0); // maps are larger than what Qt takes for reasonable
+    const auto bytes = QByteArray::fromRawData(file.data(), static_cast<qsizetype>(file.size()));
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    check_size(reader.size());
+    QImage image = reader.read();
+    if (image.isNull())
+        throw image_error("a bitmap or another image was expected (" +
+                          base::to_bytes(reader.errorString()) + ")");
+    const QSize size = image.size();
+    check_size(size); // not every format tells it before
+    image.convertTo(QImage::Format_RGB32);
+    if (image.isNull())
+        throw too_large(size);
+    return image;
+}
+
+} // namespace
+
+QImage decode_image(std::string_view path) {
+    const std::string file = base::read_file(path);
+    try {
+        if (file.empty())
+            throw image_error("the file is empty, an image was expected");
+        check_is_whole(file);
+        return decode(file);
+    } catch (const data::RunTimeError& error) {
+        throw error.within(base::shown_path(path));
+    }
+}
+
+} // namespace map

@@ -1,0 +1,136 @@
+#include "support/bitmaps.h"
+#include "support/main_frame.h"
+
+#include <QActionGroup>
+#include <QMdiSubWindow>
+
+/// The map window within the main frame.
+namespace {
+
+class MapInFrame : public support::MainFrame {
+  protected:
+    MapInFrame() {
+        // Provinces 1 to 9 from left to right, and a point of identifier 3000 in province 2.
+        const auto identifiers = bitmaps::painted(900, 400, [](int x, int y) {
+            return bitmaps::colour_of(x == 155 && y == 55 ? 3000 : x / 100 + 1);
+        });
+        session.maps.map_1_path = folder.write("1.bmp", identifiers);
+        session.maps.id_map_path = folder.write("id.bmp", identifiers);
+        folder.write("config.txt", "\"LAN\",\"english.lng\",0\r\n");
+    }
+    void start_with_maps() {
+        start();
+        frame->open_maps();
+        QCoreApplication::processEvents();
+    }
+    QWidget& surface() const { return control<QWidget>("Picture1"); }
+    void click_map(QPoint point, Qt::KeyboardModifiers keys = {}) const {
+        QTest::mouseClick(&surface(), Qt::LeftButton, keys, point);
+    }
+    QString selection_text() const { return control<QLineEdit>("selection_text").text(); }
+    QString focus() const {
+        const auto* focused = QApplication::focusWidget();
+        return focused == nullptr ? QString() : focused->objectName();
+    }
+    QPoint scrolled() const {
+        return surface().mapTo(surface().parentWidget()->parentWidget(), QPoint(0, 0));
+    }
+    void put_sprites(gfx::SpriteKind kind, const std::vector<std::string>& sets) const {
+        auto& table = session.graphics.sprites.of(kind);
+        for (std::size_t row = 0; row < sets.size(); ++row)
+            table.rows[row] = {folder.path("absent.bmp"), sets[row], 0, 0, 1};
+        table.count = static_cast<int>(sets.size());
+    }
+};
+
+TEST_F(MapInFrame, IdentifierAboveTheLastProvinceIsSelectedLikeATypedOne) {
+    start_with_maps();
+    click_map({250, 50});
+    click_map({155, 55}, Qt::ControlModifier);
+    EXPECT_EQ(selection_text(), "3;3000");
+    EXPECT_EQ(session.selection.provinces().size(), 1U);
+    EXPECT_EQ(boxes.take_one(),
+              "run_time_error: Run-time error 9: Subscript out of range\nID map, point (155, 55), "
+              "colour #506070, province 3000, an identifier up to 2018 was expected");
+    click_map({155, 55});
+    EXPECT_EQ(selection_text(), "3000");
+    EXPECT_TRUE(session.selection.provinces().empty());
+    EXPECT_NE(boxes.take_one().find("point (155, 55)"), std::string::npos);
+    click_map({350, 50}, Qt::ControlModifier);
+    EXPECT_EQ(boxes.take_one().find("point"), std::string::npos) << "it is not under this click";
+    EXPECT_TRUE(application.ends.empty());
+}
+
+TEST_F(MapInFrame, TabLeavesTheMapWithoutScrollingIt) {
+    start_with_maps();
+    QTest::keyClick(&surface(), Qt::Key_End);
+    click_map({890, 390});
+    const QPoint corner = scrolled();
+    EXPECT_EQ(focus(), "Picture1");
+    QTest::keyClick(&surface(), Qt::Key_Tab);
+    EXPECT_EQ(focus(), "selection_text");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(focus(), "Picture1");
+    QTest::keyClick(&surface(), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(control<QWidget>("panneau").isAncestorOf(QApplication::focusWidget()));
+    EXPECT_NE(focus(), "selection_text") << "the panel's last control";
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(focus(), "Picture1");
+    EXPECT_EQ(scrolled(), corner);
+    frame->enter_mode(map::Mode::ville);
+    surface().setFocus();
+    QTest::keyClick(&surface(), Qt::Key_Tab);
+    EXPECT_EQ(focus(), "Picture1") << "nothing else is there";
+    EXPECT_EQ(scrolled(), corner);
+}
+
+TEST_F(MapInFrame, MinimisedMapWindowComesBack) {
+    start_with_maps();
+    auto* window = frame->findChild<QMdiSubWindow*>();
+    const QRect before = window->geometry();
+    window->showMinimized();
+    ASSERT_FALSE(surface().isVisible());
+    choose("carte", "carte_1");
+    EXPECT_TRUE(surface().isVisible());
+    EXPECT_EQ(window->geometry(), before);
+}
+
+TEST_F(MapInFrame, PreviewedSetsAreOneChoiceForEachKind) {
+    put_sprites(gfx::SpriteKind::ville, {"Castles", "Domes", "Huts"});
+    put_sprites(gfx::SpriteKind::port, {"Ships", "Piers"});
+    start_with_maps();
+    const auto checked = [&] {
+        std::string names;
+        for (const char* name : {"ville_graph(1)", "ville_graph(2)", "ville_graph(3)",
+                                 "port_graph(1)", "port_graph(2)"}) {
+            if (action(name).isChecked())
+                names += std::string(name) + " ";
+        }
+        return names;
+    };
+    EXPECT_EQ(checked(), "ville_graph(1) port_graph(1) ");
+    choose("graphisme", "ville_graph(3)");
+    choose("graphisme", "ville_graph(3)");
+    EXPECT_EQ(checked(), "ville_graph(3) port_graph(1) ");
+    ASSERT_NE(action("ville_graph(3)").actionGroup(), nullptr);
+    EXPECT_TRUE(action("ville_graph(3)").actionGroup()->isExclusive()) << "shown as radio marks";
+    EXPECT_EQ(action("dessin_graph").actionGroup(), nullptr);
+
+    // The previewed set is taken out: the preview falls back to the first.
+    put_sprites(gfx::SpriteKind::ville, {"Castles", "Domes", ""});
+    frame->enter_mode(map::Mode::normal);
+    EXPECT_EQ(checked(), "ville_graph(1) port_graph(1) ");
+    EXPECT_EQ(session.graphics.previewed_row[gfx::SpriteKind::ville], 0);
+}
+
+TEST_F(MapInFrame, DrawingsGoOffWithTheirArt) {
+    session.configuration.terrain_art_flag = 1;
+    folder.write("config.txt", "\"GFX2\",\"c:\",1\r\n\"LAN\",\"english.lng\",0\r\n");
+    start_with_maps();
+    EXPECT_TRUE(action("dessin_graph").isEnabled() && action("dessin_graph").isChecked());
+    session.configuration.terrain_art_flag = 0;
+    frame->enter_mode(map::Mode::normal);
+    EXPECT_FALSE(action("dessin_graph").isEnabled() || action("dessin_graph").isChecked());
+}
+
+} // namespace
