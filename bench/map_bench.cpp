@@ -84,7 +84,7 @@ double memory() {
     double resident = 0;
     double shared = 0;
     statm >> all_pages >> resident >> shared;
-    return resident * 4096 / 1e6;
+    return (resident - shared) * 4096 / 1e6;
 }
 
 class RandomPlace {
@@ -98,14 +98,7 @@ class RandomPlace {
     std::mt19937 random_{1};
 };
 
-void open_three_maps(benchmark::State& state) {
-    const auto session = session_with_maps();
-    shown_window(*session);
-    for ([[maybe_unused]] auto _ : state)
-        shown_window(*session);
-}
-BENCHMARK(open_three_maps)->Unit(benchmark::kMillisecond);
-
+/// Stands before the others: memory that they gave back would serve it, and not be counted.
 void memory_of_three_maps(benchmark::State& state) {
     const auto session = session_with_maps();
     for ([[maybe_unused]] auto _ : state) {
@@ -123,6 +116,14 @@ void memory_of_three_maps(benchmark::State& state) {
     }
 }
 BENCHMARK(memory_of_three_maps)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+void open_three_maps(benchmark::State& state) {
+    const auto session = session_with_maps();
+    shown_window(*session);
+    for ([[maybe_unused]] auto _ : state)
+        shown_window(*session);
+}
+BENCHMARK(open_three_maps)->Unit(benchmark::kMillisecond);
 
 void paint_a_random_place(benchmark::State& state, const char* selection, map::Mode mode) {
     const auto session = session_with_maps();
