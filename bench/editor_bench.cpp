@@ -23,15 +23,20 @@ constexpr auto all_provinces = "1-2018";
 data::ProvinceTable full_table() {
     data::ProvinceTable table;
     for (int province = 1; province <= data::last_province; ++province) {
-        const std::string number = std::to_string(province);
+        const auto load = [&](data::TableColumn column, const std::string& text) {
+            table.load(province, column, text);
+        };
         for (data::TableColumn column{0}; column.index < data::first_unread.index; ++column.index)
-            table.load(province, column, std::to_string(column.index * 7 % 40));
-        table.load(province, {0}, "The province of number " + number);
-        table.load(province, {2}, "counterreformed");
-        for (int column = 27; column < 36; ++column)
-            table.load(province, {column}, std::to_string(province * 3 + column * 100));
-        table.load(province, {48}, "Northern Highlands");
-        table.load(province, {51}, "City of " + number);
+            load(column, std::to_string(column.index * 7 % 40));
+        const auto last_position = data::table_column(data::column::manufactory_y);
+        for (auto column = data::table_column(data::column::city_x);
+             column.index <= last_position.index; ++column.index)
+            load(column, std::to_string(province * 3 + column.index * 100));
+        const std::string number = std::to_string(province);
+        load(data::table_column(data::column::name), "The province of number " + number);
+        load(data::table_column(data::column::religion), "counterreformed");
+        load(data::table_column(data::column::area), "Northern Highlands");
+        load(data::table_column(data::column::city_name), "City of " + number);
     }
     return table;
 }

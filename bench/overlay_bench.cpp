@@ -63,8 +63,8 @@ struct World {
     }
 
     void place(int province, int x, int y) {
-        load(province, {8}, province % 9);
-        load(province, {14}, province % 7);
+        load(province, data::column::climate, province % 9);
+        load(province, data::column::terrain, province % 7);
         load(province, data::column::port_sea, 1 + (province * 7) % data::last_province);
         for (const auto& columns : map::position_columns) {
             const int number =
