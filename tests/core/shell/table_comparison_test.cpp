@@ -19,7 +19,7 @@ TEST(TableComparison, ListsTheCellsThatFilesKeep) {
     const auto differences = shell::compare(before, now);
     std::string lines;
     for (const auto& difference : differences)
-        lines += printed_line(difference) + '\n';
+        lines += shell::printed_line(difference) + '\n';
     EXPECT_EQ(lines, "province 7, 56 (Extra River Desc Link 3): \"\" -> \"5\"\n"
                      "province 9, 3 (QEV name): \"\" -> \"inland\"\n"
                      "province 9, 20 (Goods): \"wi ne\" -> \"\"\n");
