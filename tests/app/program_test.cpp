@@ -1,61 +1,21 @@
-#include "support/folder.h"
+#include "support/bitmaps.h"
+#include "support/program.h"
 
 #include <QFile>
 #include <QImage>
-#include <QProcess>
 
-#include <gtest/gtest.h>
-#include <string>
 #include <vector>
 
 namespace {
 
-/// Runs of the built program, in a folder of its own and on no display.
-class Program : public testing::Test {
-  protected:
-    Program() {
-        for (const char* name : {"english.lng", "french.lng"})
-            QFile::copy(QStringLiteral(LANGUAGES_FOLDER "/") + QLatin1String(name),
-                        folder.native(QLatin1String(name)));
-        auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        environment.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("*.warning=false"));
-        process.setProcessEnvironment(environment);
-        process.setWorkingDirectory(folder.native({}));
-    }
-
-    void start(const QStringList& arguments) {
-        process.start(QStringLiteral(PROGRAM), arguments);
-        ASSERT_TRUE(process.waitForStarted());
-    }
-    /// Returns the exit status.
-    int run(const QStringList& arguments) {
-        start(QStringList{"--folder", folder.native({})} + arguments);
-        EXPECT_TRUE(process.waitForFinished(20000));
-        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-        output = process.readAllStandardOutput().toStdString();
-        errors = process.readAllStandardError().toStdString();
-        return process.exitCode();
-    }
-
-    static std::string province_line(const std::string& identifier, const std::string& line_end) {
-        std::string line = identifier;
-        for (int field = 2; field <= 59; ++field)
-            line.append(1, ';').append(std::to_string(field));
-        return line + line_end;
-    }
-
-    support::Folder folder;
-    QProcess process;
-    std::string output;
-    std::string errors;
-};
+using support::Program;
 
 TEST_F(Program, ArgumentsAndWhatTheyEndWith) {
     folder.write("good.csv", province_line("5", "\r\n") + province_line("2018", "\r\n"));
     folder.write("unix.csv", "Id;Name\n" + province_line("5", "\n"));
     folder.write("none.csv", province_line("2019", "\r\n"));
     folder.write("empty.csv", "");
+    folder.write("a.bmp", bitmaps::noise({8, 8}));
     folder.write("short.csv", province_line("5", "\r\n") + "6;only;three\r\n");
     const struct {
         QStringList arguments;
@@ -79,6 +39,7 @@ TEST_F(Program, ArgumentsAndWhatTheyEndWith) {
         {{"--csv", "."}, 1, {"file was expected"}},
         {{"--csv", "short.csv"}, 1, {"short.csv", "line 2", "province 6", "column 3"}},
         {{"--map1", "absent.bmp", "--id-map", "absent.bmp"}, 1, {"absent.bmp"}},
+        {{"--map1", "a.bmp", "--id-map", "a.bmp", "--map2", "absent.bmp"}, 1, {"absent.bmp"}},
         {{"--select", "5--7"}, 1, {"province identifiers and ranges"}},
         {{"--select", "1-2019"}, 1, {"2019"}},
         {{"--select", "1-2018"}, 0, {}},
@@ -143,20 +104,5 @@ TEST_F(Program, ASystemWithoutADisplayIsToldSo) {
     EXPECT_NE(errors.find("no display"), std::string::npos) << errors;
     EXPECT_EQ(run({"--screenshot", "picture.png"}), 0) << errors;
 }
-
-#ifdef Q_OS_UNIX
-TEST_F(Program, EndsOnTheSystemsRequest) {
-    folder.write("good.csv", province_line("5", "\r\n"));
-    start({"--folder", folder.native({}), "--csv", "good.csv"});
-    process.setReadChannel(QProcess::StandardError);
-    while (!process.canReadLine())
-        ASSERT_TRUE(process.waitForReadyRead(20000));
-    EXPECT_TRUE(process.readLine().contains("provinces read: 1"));
-    process.terminate();
-    ASSERT_TRUE(process.waitForFinished(20000));
-    EXPECT_EQ(process.exitCode(), 128 + 15);
-    EXPECT_FALSE(QFile::exists(folder.native("recovered.csv"))) << "nothing was changed";
-}
-#endif
 
 } // namespace

@@ -24,6 +24,7 @@ struct Format {
     int bits_per_pixel = 24;
     std::string masks = {};
     std::size_t palette = 0; // entries
+    bool is_old = false;     // with the oldest header, of 12 bytes
 
     std::size_t bytes_per_row() const {
         const auto bits =
@@ -37,7 +38,12 @@ inline std::string header(const Format& format) {
     std::string palette;
     std::mt19937 random(7);
     for (std::size_t i = 0; i < format.palette; ++i)
-        palette += number(random() & 0xFFFFFF, 4);
+        palette += number(random() & 0xFFFFFF, format.is_old ? 3 : 4);
+    if (format.is_old)
+        return "BM" + number(0, 8) + number(26 + palette.size(), 4) + number(12, 4) +
+               number(static_cast<std::uint64_t>(format.width), 2) +
+               number(static_cast<std::uint64_t>(format.height), 2) + number(1, 2) +
+               number(static_cast<std::uint64_t>(format.bits_per_pixel), 2) + palette;
     const std::size_t begin = 54 + format.masks.size() + palette.size();
     return "BM" + number(0, 8) + number(begin, 4) + number(40, 4) +
            number(static_cast<std::uint32_t>(format.width), 4) +

@@ -75,10 +75,12 @@ class MainFrame : public testing::Test {
         return found;
     }
     void come_back() const {
-        if (frame->isActiveWindow())
+        // A menu that was closed stays the active window, and then no shortcut finds the frame.
+        const auto is_active = [this] { return QApplication::activeWindow() == frame.get(); };
+        if (is_active())
             return;
         frame->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(frame.get()));
+        EXPECT_TRUE(QTest::qWaitFor(is_active));
     }
     void open_tab(int tab) const {
         auto& strip = control<QTabBar>("TabStrip1");
@@ -120,6 +122,28 @@ class MainFrame : public testing::Test {
         QTest::mouseClick(title.menu(), Qt::LeftButton, {},
                           title.menu()->actionGeometry(&action(item)).center());
         QCoreApplication::processEvents();
+    }
+
+    /// Presses a key as a user of the frame does, for whom a dialog is closed by now.
+    void press_key(Qt::Key key, Qt::KeyboardModifiers keys = {}) const {
+        come_back();
+        QTest::keyClick(frame.get(), key, keys);
+        QCoreApplication::processEvents();
+    }
+
+    /// Opens the folder's bitmaps of those names through the dialog; map 2 may be empty.
+    void open_maps(const QString& map_1, const QString& map_2, const QString& id_map) {
+        in_dialog("Form2", [=, this](QDialog& dialog) {
+            for (const auto& [field, name] :
+                 {std::pair{"Text1(0)", map_1}, {"Text1(1)", map_2}, {"Text1(2)", id_map}}) {
+                auto& path = driver::control<QLineEdit>(dialog, field);
+                path.clear();
+                if (!name.isEmpty())
+                    QTest::keyClicks(&path, folder.native(name));
+            }
+            driver::press(dialog, "Command1");
+        });
+        choose("fichier", "ouvrir_cartes");
     }
 
     /// Acts in the dialog of that name that a command opens from now on; it must, and the acts

@@ -65,15 +65,6 @@ TEST(SelectionText, IdentifiersAboveTheLastEndTheSelecting) {
     EXPECT_THROW((void)Selection().contains(2019), data::RunTimeError);
 }
 
-TEST(SelectionText, Long) {
-    std::string text;
-    while (text.size() < 1'000'000)
-        text += "1-2018;";
-    Selection selection;
-    selection.apply(text);
-    EXPECT_EQ(selection.provinces().size(), 2018U);
-}
-
 TEST(SelectionText, ClicksAppend) {
     EXPECT_EQ(editor::with_province("", 9), "9");
     EXPECT_EQ(editor::with_province("5", 9), "5;9");

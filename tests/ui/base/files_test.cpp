@@ -127,6 +127,27 @@ class FileSizeLimit {
     rlimit before_{};
 };
 
+/// The superuser may do everything; while this lives he is somebody who may not.
+class Nobody {
+  public:
+    Nobody() {
+        if (is_superuser_) {
+            EXPECT_EQ(setresuid(nobody_, nobody_, 0), 0);
+        }
+    }
+    ~Nobody() {
+        if (is_superuser_) {
+            EXPECT_EQ(setresuid(0, 0, 0), 0);
+        }
+    }
+    Nobody(const Nobody&) = delete;
+    Nobody& operator=(const Nobody&) = delete;
+
+  private:
+    static constexpr uid_t nobody_ = 65534;
+    const bool is_superuser_ = geteuid() == 0;
+};
+
 TEST_F(FilesTest, FailedWriteLeavesTheOldFileWhole) {
     replace_file(path("x.csv"), "old");
     for (const std::size_t size : {std::size_t{101}, std::size_t{5'000'000}}) {
@@ -140,17 +161,17 @@ TEST_F(FilesTest, FailedWriteLeavesTheOldFileWhole) {
 }
 
 TEST_F(FilesTest, MissingPermissionIsAnError) {
-    if (geteuid() == 0)
-        GTEST_SKIP() << "the superuser may do everything";
-    replace_file(path("x.csv"), "old");
-    QFile::setPermissions(folder.native("x.csv"), {});
-    expect_error(ErrorNumber::permission_denied, "x.csv", [&] { read_file(path("x.csv")); });
-    QFile::setPermissions(folder.native("x.csv"), QFile::ReadOwner | QFile::WriteOwner);
-    QFile::setPermissions(folder.native(), QFile::ReadOwner | QFile::ExeOwner);
+    const Nobody nobody;
+    const support::Folder own;
+    const std::string x = own.write("x.csv", "old");
+    QFile::setPermissions(own.native("x.csv"), {});
+    expect_error(ErrorNumber::permission_denied, "x.csv", [&] { read_file(x); });
+    QFile::setPermissions(own.native("x.csv"), QFile::ReadOwner | QFile::WriteOwner);
+    QFile::setPermissions(own.native(), QFile::ReadOwner | QFile::ExeOwner);
     expect_error(ErrorNumber::permission_denied, "new.csv",
-                 [&] { replace_file(path("new.csv"), "new"); });
-    QFile::setPermissions(folder.native(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    EXPECT_EQ(read_file(path("x.csv")), "old");
+                 [&] { replace_file(own.path("new.csv"), "new"); });
+    QFile::setPermissions(own.native(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    EXPECT_EQ(read_file(x), "old");
 }
 
 #endif

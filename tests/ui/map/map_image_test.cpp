@@ -51,6 +51,9 @@ TEST(MapImage, ReadsEveryUncompressedForm) {
         {37, -11, 24},
         {37, 11, 32},
         {37, 11, 32, masks(0xFF, 0xFF00, 0xFF0000)},
+        {37, 11, 32, masks(0xFF0000, 0, 0xFF)},
+        {37, 11, 24, "", 0, true},
+        {37, 11, 8, "", 256, true},
     };
     for (const auto& format : formats) {
         const std::string bytes = bitmaps::noise(format);

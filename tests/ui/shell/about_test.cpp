@@ -1,39 +1,37 @@
 #include "shell/frm_about.h"
 #include "shell/session.h"
-#include "support/dialog_driver.h"
+#include "support/main_frame.h"
 
 #include <QLabel>
 
 namespace {
 
-struct AboutRow {
-    const char* language;
-    const char* caption;
-};
+TEST(AboutBox, NamesTitleAndVersion) {
+    const std::pair<const char*, const char*> captions[] = {
+        {"", " Province Editor"},
+        {"\"MENU_About\",\"x\"", " Province Editor"},
+        {"\"MENU_about\",\"x\"\r\n\"MENU_about\",\"About\"", "About Province Editor"}};
+    for (const auto& [language, caption] : captions) {
+        shell::Session session;
+        session.language = shell::LanguageTexts(language);
+        shell::frmAbout about(session, nullptr);
+        EXPECT_TRUE(driver::run(about, [&, expected = caption] {
+            EXPECT_EQ(about.windowTitle(), expected);
+            EXPECT_EQ(driver::control<QLabel>(about, "lblTitle").text(), "Province Editor");
+            EXPECT_EQ(driver::control<QLabel>(about, "lblVersion").text(), "Version 0.9.12");
+            EXPECT_FALSE(driver::control<QLabel>(about, "Label1").text().isEmpty());
+            driver::press(about, "cmdOK");
+        }));
+    }
+}
 
-class AboutTest : public testing::TestWithParam<AboutRow> {};
+class AboutCommand : public support::MainFrame {};
 
-INSTANTIATE_TEST_SUITE_P(Captions, AboutTest,
-                         testing::Values(AboutRow{"", " Province Editor"},
-                                         AboutRow{"\"MENU_About\",\"x\"", " Province Editor"},
-                                         AboutRow{
-                                             "\"MENU_about\",\"x\"\r\n\"MENU_about\",\"About\"",
-                                             "About Province Editor"}));
-
-TEST_P(AboutTest, NamesTitleAndVersion) {
-    const QString version_before = QCoreApplication::applicationVersion();
-    QCoreApplication::setApplicationVersion(QStringLiteral("0.9.12"));
-    shell::Session session;
-    session.language = shell::LanguageTexts(GetParam().language);
-    shell::frmAbout about(session, nullptr);
-    EXPECT_TRUE(driver::run(about, [&] {
-        EXPECT_EQ(about.windowTitle(), GetParam().caption);
-        EXPECT_EQ(driver::control<QLabel>(about, "lblTitle").text(), "Province Editor");
-        EXPECT_EQ(driver::control<QLabel>(about, "lblVersion").text(), "Version 0.9.12");
-        EXPECT_FALSE(driver::control<QLabel>(about, "Label1").text().isEmpty());
-        driver::press(about, "cmdOK");
-    }));
-    QCoreApplication::setApplicationVersion(version_before);
+TEST_F(AboutCommand, OpensTheBoxFromTheMenuBar) {
+    start();
+    in_dialog("frmAbout", [](QDialog& box) { driver::press(box, "cmdOK"); });
+    QTest::mouseClick(frame->menuBar(), Qt::LeftButton, {},
+                      frame->menuBar()->actionGeometry(&action("propos")).center());
 }
 
 } // namespace

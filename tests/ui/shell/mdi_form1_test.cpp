@@ -29,14 +29,12 @@ class MDIForm1 : public support::MainFrame {
     }
     QString caption(const std::string& item) const { return action(item).text(); }
 
-    /// Opens two small maps whose every point belongs to province 5.
+    /// Opens a small map whose every point belongs to province 5.
     void open_maps() {
         const auto province = bitmaps::colour_of(5);
         const auto image = bitmaps::painted(64, 64, [=](int, int) { return province; });
-        session.maps.map_1_path = folder.write("map.bmp", image);
-        session.maps.id_map_path = folder.write("ids.bmp", image);
-        frame->open_maps();
-        QCoreApplication::processEvents();
+        folder.write("map.bmp", image);
+        MainFrame::open_maps("map.bmp", "", "map.bmp");
     }
 };
 
@@ -52,7 +50,9 @@ TEST_F(MDIForm1, FirstRun) {
     EXPECT_TRUE(action("normal").isChecked());
     EXPECT_EQ(frame->windowTitle(), "Province Editor");
     EXPECT_EQ(control<QLabel>("Bar(1)").text(), to_qstring(session.language.status(1)));
-    close();
+    EXPECT_TRUE(control<QLineEdit>("nom_province").isVisible());
+    choose("fichier", "quitter");
+    EXPECT_FALSE(frame->isVisible());
     EXPECT_EQ(file("config.txt"), "\"GFX\",\"c:\",0\r\n"
                                   "\"GFX2\",\"c:\",0\r\n"
                                   "\"CSV\",\"c:\",0\r\n"
