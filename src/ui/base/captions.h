@@ -25,4 +25,14 @@ inline QString dialog_caption(const shell::LanguageTexts& language, std::string_
     return caption ? to_qstring(*caption) : from_utf8(design);
 }
 
+/// Returns what a caption names: without the mark of its shortcut and the dots that announce a
+/// dialog.
+inline QString without_marks(QString caption) {
+    while (caption.endsWith('.') || caption.endsWith(QChar(0x2026)))
+        caption.chop(1);
+    for (qsizetype at = caption.indexOf('&'); at >= 0; at = caption.indexOf('&', at + 1))
+        caption.remove(at, 1); // the second of two stays
+    return caption.trimmed();
+}
+
 } // namespace base

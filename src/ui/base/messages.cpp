@@ -11,6 +11,10 @@ namespace base {
 
 namespace {
 
+constexpr const char* unstorable =
+    "This choice cannot be stored and was not taken: its name or path holds a quotation mark, a "
+    "line end, a backslash inside a name, or a letter outside the code page Windows-1252.";
+
 int show_box(QWidget* owner, const char* name, QMessageBox::Icon icon, const std::string& text,
              QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset) {
     QMessageBox box(icon, QApplication::applicationDisplayName(), to_qstring(text), buttons, owner);
@@ -30,6 +34,10 @@ void throw_if_unattended(const shell::Session& session, const std::string& text)
 void show_message(const shell::Session& session, QWidget* owner, const std::string& text) {
     throw_if_unattended(session, text);
     show_box(owner, "message", QMessageBox::Warning, text, QMessageBox::Ok, QMessageBox::Ok);
+}
+
+void show_unstorable(const shell::Session& session, QWidget* owner) {
+    show_message(session, owner, unstorable);
 }
 
 bool ask(const shell::Session& session, QWidget* owner, const std::string& text,

@@ -66,8 +66,23 @@ std::string stored_path(const QString& path) {
     return to_bytes(stored);
 }
 
+bool is_storable_text(const QString& text) {
+    static const QRegularExpression unstorable(QStringLiteral("[\"\r\n]"));
+    return to_qstring(to_bytes(text)) == text && !text.contains(unstorable);
+}
+
 bool is_storable(const QString& name) {
-    return to_qstring(to_bytes(name)) == name && !name.contains(separator);
+    return is_storable_text(name) && !name.contains(separator);
+}
+
+bool is_storable_path(const QString& path) {
+    return has_drive(path) ? is_storable_text(path) : is_storable(path);
+}
+
+bool is_full_path(const QString& text) {
+    if (has_drive(text))
+        return text.size() > 2 && (text[2] == '/' || text[2] == separator);
+    return QDir::isAbsolutePath(text);
 }
 
 std::string in_folder(std::string_view folder, std::string_view name) {

@@ -15,9 +15,19 @@ QString native_path(std::string_view path);
 /// Returns the stored form of the path, made absolute. A stored path is returned as it is.
 std::string stored_path(const QString& path);
 
-/// Returns whether a stored path can hold the file's or folder's name: all its characters are in
-/// the code page and none is the separator.
+/// Returns whether config.txt can hold the text: all its characters are in the code page and none
+/// is a quote or a line end.
+bool is_storable_text(const QString& text);
+
+/// Returns whether a stored path can hold the file's or folder's name: it is a storable text
+/// without the separator.
 bool is_storable(const QString& name);
+
+/// Returns whether config.txt can hold the path, stored or native.
+bool is_storable_path(const QString& path);
+
+/// Returns whether the text is a path from the root on, stored or native.
+bool is_full_path(const QString& text);
 
 /// Returns the stored path of a name in a stored folder.
 std::string in_folder(std::string_view folder, std::string_view name);

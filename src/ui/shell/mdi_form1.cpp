@@ -73,11 +73,14 @@ void MDIForm1::read_configuration_file() {
 }
 
 void MDIForm1::read_language_file() {
-    const std::string path =
-        base::in_folder(session_.program_folder, session_.configuration.language_file);
+    session_.language = texts_of(session_.configuration.language_file);
+}
+
+LanguageTexts MDIForm1::texts_of(const std::string& language_file) const {
+    const std::string path = base::in_folder(session_.program_folder, language_file);
     const std::string bytes = base::read_file(path);
     try {
-        session_.language = LanguageTexts(bytes);
+        return LanguageTexts(bytes);
     } catch (const data::RunTimeError& error) {
         throw error.within(base::shown_path(path));
     }

@@ -45,7 +45,8 @@ class MDIForm1 : public QMainWindow {
     /// Previews the set of a kind's item, counted from 1.
     void preview(gfx::SpriteKind kind, int item);
     void toggle_drawings();
-    /// Takes the language of the item, counted from 0, for the next start.
+    /// Takes the language of the item, counted from 0, for the next start; one that could not be
+    /// read then is refused.
     void choose_language(int item);
     void propos();
 
@@ -66,6 +67,9 @@ class MDIForm1 : public QMainWindow {
     void start_up();
     void read_configuration_file();
     void read_language_file();
+    /// Returns the texts of a language file in the program's folder. Throws what its reading
+    /// throws, with the file in the place.
+    LanguageTexts texts_of(const std::string& language_file) const;
     void build_menus();
     void fill_language_menu();
     void build_workspace();

@@ -23,6 +23,9 @@ namespace shell {
 
 namespace {
 
+constexpr const char* language_refused =
+    "This language file cannot be used, so the language stays as it is.\n\n";
+
 /// The kinds of the graphics menu: the array of its items, and the item of position entry.
 struct PreviewMenu {
     gfx::SpriteKind kind;
@@ -76,7 +79,10 @@ data::ReadReport MDIForm1::open_province_file() {
 }
 
 void MDIForm1::gfx() {
-    gfx::Form3(session_, this).exec();
+    gfx::Form3 form(session_, this);
+    connect(&form, &gfx::Form3::terrain_art_accepted, action("dessin_menu"),
+            [this] { action("dessin_menu")->setEnabled(true); });
+    form.exec();
     show_graphics();
 }
 
@@ -153,8 +159,18 @@ void MDIForm1::options() {
 }
 
 void MDIForm1::choose_language(int item) {
-    session_.configuration.language_file =
-        base::to_bytes(languages_.at(item) + QStringLiteral(".lng"));
+    const QString file = languages_.at(item) + QStringLiteral(".lng");
+    if (!base::is_storable(file)) {
+        base::show_unstorable(session_, this);
+        return;
+    }
+    try {
+        texts_of(base::to_bytes(file));
+    } catch (const data::RunTimeError& error) {
+        base::show_message(session_, this, language_refused + std::string(error.what()));
+        return;
+    }
+    session_.configuration.language_file = base::to_bytes(file);
     base::show_message(session_, this, session_.language.message(data::Message::language_notice));
 }
 

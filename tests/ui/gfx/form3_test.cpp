@@ -120,8 +120,8 @@ TEST_F(Form3Test, AddsASetOfEveryKind) {
     run([&](gfx::Form3& form) {
         select(form, "File1", "one.spr");
         for (const auto& kind : kinds) {
-            add(form, kind.button, "a, \"b\"");
-            EXPECT_EQ(texts(form, kind.list), "a, \"b\"");
+            add(form, kind.button, "a, b");
+            EXPECT_EQ(texts(form, kind.list), "a, b");
             EXPECT_EQ(count(kind.kind), 1) << kind.button;
             EXPECT_EQ(session.graphics.files.saved().back().kind, gfx::info(kind.kind).word);
         }
