@@ -25,6 +25,12 @@ inline QString dialog_caption(const shell::LanguageTexts& language, std::string_
     return caption ? to_qstring(*caption) : from_utf8(design);
 }
 
+/// Returns one of the program's own texts, with %1 replaced by the value.
+inline QString own_text(const shell::LanguageTexts& language, shell::Text text,
+                        const QString& value = {}) {
+    return to_qstring(language.text(text, {to_bytes(value)}));
+}
+
 /// Returns what a caption names: without the mark of its shortcut and the dots that announce a
 /// dialog.
 inline QString without_marks(QString caption) {

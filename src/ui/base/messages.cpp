@@ -11,10 +11,6 @@ namespace base {
 
 namespace {
 
-constexpr const char* unstorable =
-    "This choice cannot be stored and was not taken: its name or path holds a quotation mark, a "
-    "line end, a backslash inside a name, or a letter outside the code page Windows-1252.";
-
 int show_box(QWidget* owner, const char* name, QMessageBox::Icon icon, const std::string& text,
              QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset) {
     QMessageBox box(icon, QApplication::applicationDisplayName(), to_qstring(text), buttons, owner);
@@ -37,7 +33,7 @@ void show_message(const shell::Session& session, QWidget* owner, const std::stri
 }
 
 void show_unstorable(const shell::Session& session, QWidget* owner) {
-    show_message(session, owner, unstorable);
+    show_message(session, owner, session.language.text(shell::Text::choice_unstorable));
 }
 
 bool ask(const shell::Session& session, QWidget* owner, const std::string& text,

@@ -6,7 +6,6 @@
 #include "base/stored_path.h"
 #include "data/numbers.h"
 #include "gfx/form4.h"
-#include "gfx/texts.h"
 #include "shell/session.h"
 
 #include <QApplication>
@@ -127,7 +126,8 @@ void Form2::apply_captions() {
             field->setAccessibleName(base::without_marks(labels_.at(i)->text()));
     }
     for (std::size_t i = 0; i < browse_buttons_.size(); ++i) {
-        const QString purpose = base::from_utf8(texts::browse).arg(paths_.at(i)->accessibleName());
+        const QString purpose = base::own_text(session_.language, shell::Text::chooser_browse,
+                                               paths_.at(i)->accessibleName());
         browse_buttons_.at(i)->setAccessibleName(purpose);
         browse_buttons_.at(i)->setToolTip(purpose);
     }

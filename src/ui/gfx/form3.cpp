@@ -10,7 +10,6 @@
 #include "gfx/form4.h"
 #include "gfx/form5.h"
 #include "gfx/load_gfx_fichier.h"
-#include "gfx/texts.h"
 #include "shell/session.h"
 
 #include <QApplication>
@@ -50,8 +49,8 @@ Form3::Form3(shell::Session& session, QWidget* owner)
     setObjectName(QStringLiteral("Form3"));
     setWindowTitle(QApplication::applicationDisplayName());
     files_->setObjectName(QStringLiteral("File1"));
-    files_->setAccessibleName(base::from_utf8(texts::descriptors));
-    files_->setToolTip(base::from_utf8(texts::descriptors));
+    files_->setAccessibleName(base::own_text(session_.language, shell::Text::sets_files));
+    files_->setToolTip(base::own_text(session_.language, shell::Text::sets_files));
     lay_out();
     show_descriptors();
     for (const auto& row : rows)
@@ -104,8 +103,8 @@ void Form3::lay_out_kinds(QGridLayout& grid) {
 QLayout* Form3::make_arrows(SpriteKind kind, const QString& heading) {
     auto* add = make_button(control_name("entre_", kind), base::from_utf8("→"));
     auto* take_out = make_button(control_name("sort_", kind), base::from_utf8("←"));
-    add->setToolTip(base::from_utf8(texts::add_set).arg(heading));
-    take_out->setToolTip(base::from_utf8(texts::take_set_out).arg(heading));
+    add->setToolTip(base::own_text(session_.language, shell::Text::sets_add, heading));
+    take_out->setToolTip(base::own_text(session_.language, shell::Text::sets_take_out, heading));
     auto* arrows = new QVBoxLayout;
     for (QPushButton* arrow : {add, take_out}) {
         arrow->setAccessibleName(arrow->toolTip());

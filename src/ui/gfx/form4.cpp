@@ -11,7 +11,6 @@
 #include "gfx/folder_list.h"
 #include "gfx/location.h"
 #include "gfx/terrain_art.h"
-#include "gfx/texts.h"
 #include "shell/session.h"
 
 #include <QApplication>
@@ -66,7 +65,8 @@ Form4::Form4(shell::Session& session, QWidget* owner)
       drives_(new QComboBox(this)),
       folders_(new FolderList(this)),
       files_(new FileList(this)),
-      name_label_(new QLabel(base::from_utf8(texts::file_name), this)),
+      name_label_(
+          new QLabel(base::own_text(session_.language, shell::Text::chooser_file_name), this)),
       name_(new QLineEdit(this)),
       confirm_(new QPushButton(QStringLiteral("OK"), this)),
       cancel_(new QPushButton(QStringLiteral("Cancel"), this)) {
@@ -107,15 +107,15 @@ void Form4::name_controls() {
     confirm_->setObjectName(QStringLiteral("Command1"));
     cancel_->setObjectName(QStringLiteral("Command2"));
 
-    drives_->setAccessibleName(base::from_utf8(texts::drive));
-    drives_->setToolTip(base::from_utf8(texts::drive));
-    folders_->setAccessibleName(base::from_utf8(texts::folders));
-    folders_->setToolTip(base::from_utf8(texts::folders_tip));
-    files_->setAccessibleName(base::from_utf8(texts::files));
-    files_->setToolTip(base::from_utf8(texts::files));
+    drives_->setAccessibleName(base::own_text(session_.language, shell::Text::chooser_drive));
+    drives_->setToolTip(base::own_text(session_.language, shell::Text::chooser_drive));
+    folders_->setAccessibleName(base::own_text(session_.language, shell::Text::chooser_folders));
+    folders_->setToolTip(base::own_text(session_.language, shell::Text::chooser_folders_tip));
+    files_->setAccessibleName(base::own_text(session_.language, shell::Text::chooser_files));
+    files_->setToolTip(base::own_text(session_.language, shell::Text::chooser_files));
     name_label_->setBuddy(name_);
     name_->setAccessibleName(base::without_marks(name_label_->text()));
-    name_->setToolTip(base::from_utf8(texts::file_name_tip));
+    name_->setToolTip(base::own_text(session_.language, shell::Text::chooser_file_name_tip));
 }
 
 void Form4::lay_out() {

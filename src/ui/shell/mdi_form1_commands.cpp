@@ -8,6 +8,7 @@
 #include "gfx/form2.h"
 #include "gfx/form3.h"
 #include "gfx/form4.h"
+#include "shell/error_text.h"
 #include "shell/frm_about.h"
 #include "shell/mdi_form1.h"
 #include "shell/recovery.h"
@@ -22,9 +23,6 @@
 namespace shell {
 
 namespace {
-
-constexpr const char* language_refused =
-    "This language file cannot be used, so the language stays as it is.\n\n";
 
 /// The kinds of the graphics menu: the array of its items, and the item of position entry.
 struct PreviewMenu {
@@ -167,7 +165,9 @@ void MDIForm1::choose_language(int item) {
     try {
         texts_of(base::to_bytes(file));
     } catch (const data::RunTimeError& error) {
-        base::show_message(session_, this, language_refused + std::string(error.what()));
+        base::show_message(
+            session_, this,
+            session_.language.text(Text::language_refused, {text_of(error, session_.language)}));
         return;
     }
     session_.configuration.language_file = base::to_bytes(file);

@@ -307,18 +307,6 @@ TEST_F(Form4Test, FilesFollowTheOpenedFolder) {
     EXPECT_EQ(session.configuration.province_file_path, stored("sub\\inner.csv"));
 }
 
-TEST_F(Form4Test, TabWalksThroughTheControls) {
-    choose(ChooserKind::CSV2, stored(""));
-    run([&] {
-        QStringList names;
-        for (int i = 0; i < 6; ++i) {
-            names += QApplication::focusWidget()->objectName();
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        }
-        EXPECT_EQ(names.join(' ').toStdString(), "Text1 Command1 Command2 Drive1 Dir1 File1");
-    });
-}
-
 TEST_F(Form4Test, NamesThatNoStoredPathCanHoldAreNotOffered) {
     touch(QString::fromUtf8("\xCE\xB1.csv"));
     touch("back\\slash.csv");
