@@ -49,8 +49,6 @@ Form3::Form3(shell::Session& session, QWidget* owner)
     setObjectName(QStringLiteral("Form3"));
     setWindowTitle(QApplication::applicationDisplayName());
     files_->setObjectName(QStringLiteral("File1"));
-    files_->setAccessibleName(base::own_text(session_.language, shell::Text::sets_files));
-    files_->setToolTip(base::own_text(session_.language, shell::Text::sets_files));
     lay_out();
     show_descriptors();
     for (const auto& row : rows)
@@ -61,7 +59,13 @@ void Form3::lay_out() {
     auto* grid = new QGridLayout(this);
     lay_out_kinds(*grid);
     const int line = grid->rowCount();
-    grid->addWidget(files_, 0, 0, line, 1);
+    const QString heading = base::own_text(session_.language, shell::Text::sets_files);
+    auto* label = new QLabel(heading, this);
+    label->setObjectName(QStringLiteral("Label2"));
+    label->setBuddy(files_);
+    files_->setAccessibleName(heading);
+    grid->addWidget(label, 0, 0);
+    grid->addWidget(files_, 1, 0, line - 1, 1);
 
     auto* graphics = make_captioned_button("Command2", "Graphics folder...");
     auto* terrain_art = make_captioned_button("Command1", "Terrain art folder...");

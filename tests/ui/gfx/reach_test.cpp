@@ -25,8 +25,8 @@ std::string walked(QDialog& dialog) {
                 continue;
             const QString name = control->objectName();
             EXPECT_TRUE(names.contains(name)) << name.toStdString();
-            auto* interface = QAccessible::queryAccessibleInterface(control);
-            EXPECT_TRUE(interface->text(QAccessible::Name)
+            auto* accessible = QAccessible::queryAccessibleInterface(control);
+            EXPECT_TRUE(accessible->text(QAccessible::Name)
                             .contains(QRegularExpression(QStringLiteral("[A-Za-z]"))))
                 << name.toStdString();
         }
