@@ -90,6 +90,24 @@ constexpr data::IndexedArray<Text, TextInfo, text_count> texts = {{{
     {Text::button_refresh, "button_refresh", "&Refresh"},
     {Text::button_close, "button_close", "Close"},
 
+    // Choosing files, folders, sprite sets and the language
+    {Text::chooser_browse, "chooser_browse", "Choose the file: %1"},
+    {Text::chooser_drive, "chooser_drive", "Drive"},
+    {Text::chooser_folders, "chooser_folders", "Folders"},
+    {Text::chooser_folders_tip, "chooser_folders_tip", "Enter or a double-click opens the folder"},
+    {Text::chooser_files, "chooser_files", "Files"},
+    {Text::chooser_file_name, "chooser_file_name", "File &name"},
+    {Text::chooser_file_name_tip, "chooser_file_name_tip",
+     "A name in the open folder, or a full path"},
+    {Text::choice_unstorable, "choice_unstorable",
+     "This choice cannot be stored and was not taken: its name or path holds a quotation mark, a "
+     "line end, a backslash inside a name, or a letter outside the code page Windows-1252."},
+    {Text::language_refused, "language_refused",
+     "The language stays as it is, since the program could not start with this language file. %1"},
+    {Text::sets_files, "sets_files", "Sprite descriptor files"},
+    {Text::sets_add, "sets_add", "Add the selected file: %1"},
+    {Text::sets_take_out, "sets_take_out", "Take the selected set out: %1"},
+
     // Recovery copies and backups
     {Text::copies_caption, "copies_caption", "Recovery copies and backups"},
     {Text::copies_recovery_copy, "copies_recovery_copy", "Recovery copy"},

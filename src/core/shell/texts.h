@@ -87,6 +87,20 @@ enum class Text {
     button_refresh,
     button_close,
 
+    // Choosing files, folders, sprite sets and the language
+    chooser_browse,
+    chooser_drive,
+    chooser_folders,
+    chooser_folders_tip,
+    chooser_files,
+    chooser_file_name,
+    chooser_file_name_tip,
+    choice_unstorable,
+    language_refused,
+    sets_files,
+    sets_add,
+    sets_take_out,
+
     // Recovery copies and backups
     copies_caption,
     copies_recovery_copy,

@@ -26,4 +26,20 @@ inline QString dialog_caption(const shell::LanguageTexts& language, std::string_
     return caption ? caption_text(*caption) : from_utf8(design);
 }
 
+/// Returns one of the program's own texts, with %1 replaced by the value.
+inline QString own_text(const shell::LanguageTexts& language, shell::Text text,
+                        const QString& value = {}) {
+    return to_qstring(language.text(text, {to_bytes(value)}));
+}
+
+/// Returns what a caption names: without the mark of its shortcut and the dots that announce a
+/// dialog.
+inline QString without_marks(QString caption) {
+    while (caption.endsWith('.') || caption.endsWith(QChar(0x2026)))
+        caption.chop(1);
+    for (qsizetype at = caption.indexOf('&'); at >= 0; at = caption.indexOf('&', at + 1))
+        caption.remove(at, 1); // the second of two stays
+    return caption.trimmed();
+}
+
 } // namespace base

@@ -33,6 +33,10 @@ void show_message(const shell::Session& session, QWidget* owner, const std::stri
     show_box(owner, "message", QMessageBox::Warning, text, QMessageBox::Ok, QMessageBox::Ok);
 }
 
+void show_unstorable(const shell::Session& session, QWidget* owner) {
+    show_message(session, owner, session.language.text(shell::Text::choice_unstorable));
+}
+
 bool ask(const shell::Session& session, QWidget* owner, const std::string& text,
          DefaultAnswer preset) {
     throw_if_unattended(session, text);

@@ -13,6 +13,9 @@ namespace base {
 /// Shows the text with an exclamation mark and an OK button.
 void show_message(const shell::Session& session, QWidget* owner, const std::string& text);
 
+/// Says that config.txt could not hold what was chosen, and that nothing has changed.
+void show_unstorable(const shell::Session& session, QWidget* owner);
+
 enum class DefaultAnswer { yes, no };
 
 /// Returns whether the question was answered with Yes.

@@ -110,6 +110,16 @@ bool is_storable(const QString& name) {
     return is_storable_text(name) && !name.contains(separator);
 }
 
+bool is_storable_path(const QString& path) {
+    return has_drive(path) ? is_storable_text(path) : is_storable(path);
+}
+
+bool is_full_path(const QString& text) {
+    if (has_drive(text))
+        return text.size() > 2 && (text[2] == '/' || text[2] == separator);
+    return QDir::isAbsolutePath(text);
+}
+
 std::string in_folder(std::string_view folder, std::string_view name) {
     std::string path(folder);
     path += separator;

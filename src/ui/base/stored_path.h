@@ -32,6 +32,12 @@ bool is_storable_text(const QString& text);
 /// without the separator.
 bool is_storable(const QString& name);
 
+/// Returns whether config.txt can hold the path, stored or native.
+bool is_storable_path(const QString& path);
+
+/// Returns whether the text is a path from the root on, stored or native.
+bool is_full_path(const QString& text);
+
 /// Returns the stored path of a name in a stored folder.
 std::string in_folder(std::string_view folder, std::string_view name);
 

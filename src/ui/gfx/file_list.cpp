@@ -14,7 +14,7 @@ constexpr QSize icon_size(16, 16);
 
 }
 
-FileList::FileList(QWidget* parent) : QListWidget(parent) {
+FileList::FileList(QWidget* parent) : ChoiceList(parent) {
     setIconSize(icon_size);
     setUniformItemSizes(true);
 }
@@ -41,14 +41,6 @@ std::vector<std::string> FileList::names() const {
     for (int row = 0; row < count(); ++row)
         names.push_back(base::to_bytes(item(row)->text()));
     return names;
-}
-
-void FileList::focusInEvent(QFocusEvent* event) {
-    QListWidget::focusInEvent(event);
-    // The base class makes the first file the current one without selecting it; the first press of
-    // the down key would then select the second.
-    if (selectedItems().isEmpty())
-        setCurrentItem(nullptr);
 }
 
 } // namespace gfx

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QListWidget>
+#include "gfx/choice_list.h"
 
 #include <string>
 #include <vector>
@@ -8,7 +8,7 @@
 namespace gfx {
 
 /// The files of one folder, of which the user selects at most one.
-class FileList : public QListWidget {
+class FileList : public ChoiceList {
     Q_OBJECT
 
   public:
@@ -23,9 +23,6 @@ class FileList : public QListWidget {
 
     /// Returns the names of all files listed.
     std::vector<std::string> names() const;
-
-  protected:
-    void focusInEvent(QFocusEvent* event) override;
 };
 
 } // namespace gfx

@@ -1,5 +1,6 @@
 #include "gfx/form2.h"
 
+#include "base/captions.h"
 #include "base/messages.h"
 #include "base/qt_text.h"
 #include "base/stored_path.h"
@@ -24,6 +25,23 @@ constexpr int offset_width = 90;
 constexpr int space_between_columns = 10;
 constexpr int space_above_heading = 12;
 
+/// The captions of the labels where the language file has none.
+constexpr std::array label_captions = {"Map 1",    "Map 2 (optional)",
+                                       "ID map",   "X offset",
+                                       "Y offset", "Where the maps lie in the game world (pixels)"};
+
+bool is_quoted(const QString& text) {
+    return text.size() > 1 && (text[0] == '"' || text[0] == '\'') && text.back() == text[0];
+}
+
+/// Returns a path as it is meant: other programs copy it with blanks or quotes around it.
+QString bare(QString path) {
+    path = path.trimmed();
+    while (is_quoted(path))
+        path = path.mid(1, path.size() - 2).trimmed();
+    return path;
+}
+
 } // namespace
 
 Form2::Form2(shell::Session& session, QWidget* owner)
@@ -31,7 +49,7 @@ Form2::Form2(shell::Session& session, QWidget* owner)
       session_(session),
       x_offset_(new QLineEdit(this)),
       y_offset_(new QLineEdit(this)),
-      confirm_(new QPushButton(QStringLiteral("OK"), this)) {
+      confirm_(new QPushButton(this)) {
     setObjectName(QStringLiteral("Form2"));
     setWindowTitle(QApplication::applicationDisplayName());
     lay_out();
@@ -58,6 +76,7 @@ void Form2::lay_out() {
         field->setObjectName(QStringLiteral("Text1(%1)").arg(i));
         paths_.at(static_cast<std::size_t>(i)) = field;
         auto* button = new QPushButton(QStringLiteral("..."), this);
+        browse_buttons_.at(static_cast<std::size_t>(i)) = button;
         button->setMaximumWidth(browse_width);
         button->setObjectName(QStringLiteral("Command2(%1)").arg(i));
         connect(button, &QPushButton::clicked, this, [this, i] { browse(i); });
@@ -97,15 +116,22 @@ void Form2::lay_out() {
 }
 
 void Form2::apply_captions() {
-    const auto apply = [this](auto* control) {
-        const auto caption =
-            session_.language.exact_caption("Form2." + base::to_bytes(control->objectName()));
-        if (caption)
-            control->setText(base::to_qstring(*caption));
+    const auto apply = [this](auto* control, const char* design_caption) {
+        const std::string key = "Form2." + base::to_bytes(control->objectName());
+        control->setText(base::dialog_caption(session_.language, key, design_caption));
     };
-    for (QLabel* label : labels_)
-        apply(label);
-    apply(confirm_);
+    for (std::size_t i = 0; i < labels_.size(); ++i) {
+        apply(labels_.at(i), label_captions.at(i));
+        if (QWidget* field = labels_.at(i)->buddy())
+            field->setAccessibleName(base::without_marks(labels_.at(i)->text()));
+    }
+    for (std::size_t i = 0; i < browse_buttons_.size(); ++i) {
+        const QString purpose = base::own_text(session_.language, shell::Text::chooser_browse,
+                                               paths_.at(i)->accessibleName());
+        browse_buttons_.at(i)->setAccessibleName(purpose);
+        browse_buttons_.at(i)->setToolTip(purpose);
+    }
+    apply(confirm_, "OK");
 }
 
 void Form2::show_present_values() {
@@ -131,24 +157,32 @@ void Form2::confirm() {
                            session_.language.message(data::Message::offset_missing));
         return;
     }
-    if (path_field(0)->text().isEmpty() || path_field(2)->text().isEmpty()) {
+    const QString map_1 = path_in(0);
+    const QString map_2 = path_in(1);
+    const QString id_map = path_in(2);
+    if (map_1.isEmpty() || id_map.isEmpty()) {
         base::show_message(session_, this, session_.language.message(data::Message::map_missing));
+        return;
+    }
+    if (!base::is_storable_path(map_1) || !base::is_storable_path(map_2) ||
+        !base::is_storable_path(id_map)) {
+        base::show_unstorable(session_, this);
         return;
     }
     session_.cancelled_flag = confirmed;
     map::Maps& maps = session_.maps;
-    maps.map_1_path = path_in(0);
-    if (!path_field(1)->text().isEmpty())
-        maps.map_2_path = path_in(1);
-    maps.id_map_path = path_in(2);
+    maps.map_1_path = base::stored_path(map_1);
+    if (!map_2.isEmpty())
+        maps.map_2_path = base::stored_path(map_2);
+    maps.id_map_path = base::stored_path(id_map);
     maps.x_offset = data::leading_number(base::to_bytes(x_offset_->text()));
     maps.y_offset = data::to_int16(data::leading_number(base::to_bytes(y_offset_->text())),
                                    base::to_bytes(label(5)->text()));
     accept();
 }
 
-std::string Form2::path_in(int index) const {
-    return base::stored_path(path_field(index)->text());
+QString Form2::path_in(int index) const {
+    return bare(path_field(index)->text());
 }
 
 } // namespace gfx

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QDialog>
+#include <QString>
 
 #include <array>
-#include <string>
 
 class QLabel;
 class QLineEdit;
@@ -34,13 +34,14 @@ class Form2 : public QDialog {
     void show_present_values();
     void browse(int index);
     void confirm();
-    std::string path_in(int index) const;
+    QString path_in(int index) const;
     QLabel* label(int number) const { return labels_.at(static_cast<std::size_t>(number - 1)); }
     QLineEdit* path_field(int index) const { return paths_.at(static_cast<std::size_t>(index)); }
 
     shell::Session& session_;
     std::array<QLabel*, 6> labels_{};
     std::array<QLineEdit*, file_count> paths_{};
+    std::array<QPushButton*, file_count> browse_buttons_{};
     QLineEdit* x_offset_;
     QLineEdit* y_offset_;
     QPushButton* confirm_;

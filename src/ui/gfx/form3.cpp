@@ -5,6 +5,7 @@
 #include "base/qt_text.h"
 #include "base/stored_path.h"
 #include "data/run_time_error.h"
+#include "gfx/choice_list.h"
 #include "gfx/file_list.h"
 #include "gfx/form4.h"
 #include "gfx/form5.h"
@@ -14,8 +15,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 
 namespace gfx {
@@ -54,65 +55,26 @@ Form3::Form3(shell::Session& session, QWidget* owner)
         show_sets(row.kind);
 }
 
-QListWidget* Form3::make_list(SpriteKind kind) {
-    auto* made = new QListWidget(this);
-    made->setObjectName(control_name("List_", kind));
-    lists_[kind] = made;
-    return made;
-}
-
-QPushButton* Form3::make_arrow(const char* name, SpriteKind kind, const char* caption) {
-    auto* arrow = new QPushButton(base::from_utf8(caption), this);
-    arrow->setObjectName(control_name(name, kind));
-    arrow->setAutoDefault(false);
-    return arrow;
-}
-
-QPushButton* Form3::make_button(const QString& name, const char* design_caption) {
-    const std::string key = "Form3." + base::to_bytes(name);
-    auto* button =
-        new QPushButton(base::dialog_caption(session_.language, key, design_caption), this);
-    button->setObjectName(name);
-    button->setAutoDefault(false); // Enter in a list must press none of the buttons
-    return button;
-}
-
 void Form3::lay_out() {
     auto* grid = new QGridLayout(this);
-    int line = 0;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        const SpriteKind kind = rows[i].kind;
-        const std::string index = std::to_string(i);
-        auto* heading =
-            new QLabel(base::dialog_caption(session_.language, "Form3.Label1 (" + index + ")",
-                                            rows[i].heading),
-                       this);
-        heading->setObjectName(base::to_qstring("Label1(" + index + ")"));
-        auto* sets = make_list(kind);
-        heading->setBuddy(sets);
-        auto* add = make_arrow("entre_", kind, "→");
-        auto* take_out = make_arrow("sort_", kind, "←");
-        connect(add, &QPushButton::clicked, this, [this, kind] { add_sets(kind); });
-        connect(take_out, &QPushButton::clicked, this, [this, kind] { take_set_out(kind); });
+    lay_out_kinds(*grid);
+    const int line = grid->rowCount();
+    const QString heading = base::own_text(session_.language, shell::Text::sets_files);
+    auto* label = new QLabel(heading, this);
+    label->setObjectName(QStringLiteral("Label2"));
+    label->setBuddy(files_);
+    files_->setAccessibleName(heading);
+    grid->addWidget(label, 0, 0);
+    grid->addWidget(files_, 1, 0, line - 1, 1);
 
-        auto* arrows = new QVBoxLayout;
-        arrows->addWidget(add);
-        arrows->addWidget(take_out);
-        arrows->addStretch();
-        grid->addWidget(heading, line++, 2);
-        grid->addLayout(arrows, line, 1);
-        grid->addWidget(sets, line++, 2);
-    }
-    grid->addWidget(files_, 0, 0, line, 1);
-
-    auto* terrain_art = make_button(QStringLiteral("Command1"), "Terrain art folder...");
-    auto* graphics = make_button(QStringLiteral("Command2"), "Graphics folder...");
-    auto* close_button = make_button(QStringLiteral("Command3"), "Close");
-    connect(terrain_art, &QPushButton::clicked, this, [this] { choose_folder(ChooserKind::GFX2); });
+    auto* graphics = make_captioned_button("Command2", "Graphics folder...");
+    auto* terrain_art = make_captioned_button("Command1", "Terrain art folder...");
+    auto* close_button = make_captioned_button("Command3", "Close");
     connect(graphics, &QPushButton::clicked, this, [this] {
         choose_folder(ChooserKind::GFX);
         show_descriptors();
     });
+    connect(terrain_art, &QPushButton::clicked, this, [this] { choose_folder(ChooserKind::GFX2); });
     connect(close_button, &QPushButton::clicked, this, &Form3::close);
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(graphics);
@@ -125,11 +87,72 @@ void Form3::lay_out() {
     resize(initial_size);
 }
 
+void Form3::lay_out_kinds(QGridLayout& grid) {
+    int line = 0;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const SpriteKind kind = rows[i].kind;
+        const std::string index = std::to_string(i);
+        const QString heading = base::dialog_caption(
+            session_.language, "Form3.Label1 (" + index + ")", rows[i].heading);
+        auto* label = new QLabel(heading, this);
+        label->setObjectName(base::to_qstring("Label1(" + index + ")"));
+        grid.addWidget(label, line++, 2);
+        // The focus goes over the screen by columns: the arrows stand before the list.
+        grid.addLayout(make_arrows(kind, base::without_marks(heading)), line, 1);
+        grid.addWidget(make_list(kind, base::without_marks(heading)), line++, 2);
+        label->setBuddy(&list(kind));
+    }
+}
+
+QLayout* Form3::make_arrows(SpriteKind kind, const QString& heading) {
+    auto* add = make_button(control_name("entre_", kind), base::from_utf8("→"));
+    auto* take_out = make_button(control_name("sort_", kind), base::from_utf8("←"));
+    add->setToolTip(base::own_text(session_.language, shell::Text::sets_add, heading));
+    take_out->setToolTip(base::own_text(session_.language, shell::Text::sets_take_out, heading));
+    auto* arrows = new QVBoxLayout;
+    for (QPushButton* arrow : {add, take_out}) {
+        arrow->setAccessibleName(arrow->toolTip());
+        arrows->addWidget(arrow);
+    }
+    arrows->addStretch();
+    connect(add, &QPushButton::clicked, this, [this, kind] { add_sets(kind); });
+    connect(take_out, &QPushButton::clicked, this, [this, kind] { take_set_out(kind); });
+    return arrows;
+}
+
+ChoiceList* Form3::make_list(SpriteKind kind, const QString& heading) {
+    auto* made = new ChoiceList(this);
+    made->setObjectName(control_name("List_", kind));
+    made->setAccessibleName(heading);
+    lists_[kind] = made;
+    return made;
+}
+
+QPushButton* Form3::make_button(const QString& name, const QString& caption) {
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(name);
+    button->setAutoDefault(false); // Enter in a list must press none of the buttons
+    return button;
+}
+
+QPushButton* Form3::make_captioned_button(const char* name, const char* design_caption) {
+    const std::string key = std::string("Form3.") + name;
+    return make_button(QString::fromLatin1(name),
+                       base::dialog_caption(session_.language, key, design_caption));
+}
+
+void Form3::keyPressEvent(QKeyEvent* event) {
+    const bool is_enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    if (is_enter && button != nullptr && !event->isAutoRepeat())
+        button->click();
+    else if (!is_enter)
+        QDialog::keyPressEvent(event);
+}
+
 void Form3::show_descriptors() {
-    const QString folder =
-        QDir(base::native_path(session_.configuration.graphics_folder)).absolutePath();
-    folder_ = base::stored_path(folder);
-    files_->show_files(folder, QStringLiteral("*.spr"));
+    folder_ = QDir(base::native_path(session_.configuration.graphics_folder)).absolutePath();
+    files_->show_files(folder_, QStringLiteral("*.spr"));
 }
 
 void Form3::show_sets(SpriteKind kind) {
@@ -151,8 +174,12 @@ void Form3::add_sets(SpriteKind kind) {
     const std::string file = files_->file_name();
     if (file.empty())
         return;
+    if (!base::is_storable_path(folder_)) {
+        base::show_unstorable(session_, this);
+        return;
+    }
     Form5(session_, this).exec();
-    load_gfx_fichier(session_, info(kind).word, base::in_folder(folder_, file),
+    load_gfx_fichier(session_, info(kind).word, base::in_folder(base::stored_path(folder_), file),
                      graphics.current_set_name);
     list(kind).addItem(base::to_qstring(graphics.current_set_name));
 }
@@ -163,7 +190,7 @@ void Form3::take_set_out(SpriteKind kind) {
     const auto selected = sets.selectedItems();
     graphics.current_set_name =
         selected.isEmpty() ? std::string() : base::to_bytes(selected.front()->text());
-    graphics.files.remove(graphics.current_set_name);
+    remove_gfx_fichier(graphics.current_set_name);
     if (sets.count() == 0)
         return;
     --graphics.sprites.of(kind).count;
@@ -175,9 +202,15 @@ void Form3::take_set_out(SpriteKind kind) {
     graphics.sprites.take_rows_out(kind, graphics.current_set_name);
 }
 
+void Form3::remove_gfx_fichier(const std::string& set_name) {
+    session_.graphics.files.remove(set_name);
+}
+
 void Form3::choose_folder(ChooserKind kind) {
     session_.chooser_kind = kind;
-    Form4(session_, this).exec();
+    Form4 chooser(session_, this);
+    connect(&chooser, &Form4::terrain_art_accepted, this, &Form3::terrain_art_accepted);
+    chooser.exec();
 }
 
 } // namespace gfx

@@ -1,12 +1,15 @@
 #include "gfx/form4.h"
 
+#include "base/captions.h"
 #include "base/messages.h"
 #include "base/qt_text.h"
 #include "base/stored_path.h"
 #include "data/run_time_error.h"
 #include "data/text.h"
+#include "gfx/elided_label.h"
 #include "gfx/file_list.h"
 #include "gfx/folder_list.h"
+#include "gfx/location.h"
 #include "gfx/terrain_art.h"
 #include "shell/session.h"
 
@@ -14,39 +17,19 @@
 #include <QComboBox>
 #include <QDir>
 #include <QGridLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStyle>
 
 #include <algorithm>
-#include <array>
 
 namespace gfx {
 
 namespace {
 
-/// What the chooser needs to know of a kind, in the order of the kinds.
-struct Location {
-    std::string_view name; // as the configuration file calls it
-    std::string shell::Configuration::*path;
-    std::string_view pattern;
-    bool is_folder;
-};
-
-constexpr std::array<Location, 5> locations = {{
-    {"GFX", &shell::Configuration::graphics_folder, "*.spr", true},
-    {"GFX2", &shell::Configuration::terrain_art_folder, "*.bmp", true},
-    {"CSV", &shell::Configuration::province_file_path, "*.csv", false},
-    {"CSV2", &shell::Configuration::province_save_path, "*.csv", false},
-    {"BMP", &shell::Configuration::map_bitmap_path, "*.bmp", false},
-}};
-
-constexpr std::string_view province_file_extension = ".csv";
+constexpr QLatin1String province_file_extension(".csv");
 constexpr QSize initial_size(640, 420);
-
-const Location& location_of(ChooserKind kind) {
-    return locations.at(static_cast<std::size_t>(kind));
-}
 
 /// Returns the drives that can be opened, as "c:".
 QStringList drives() {
@@ -77,23 +60,24 @@ std::string with_drive(const std::string& path) {
 Form4::Form4(shell::Session& session, QWidget* owner)
     : QDialog(owner),
       session_(session),
+      wanted_(new QLabel(this)),
+      shown_(new ElidedLabel(this)),
       drives_(new QComboBox(this)),
       folders_(new FolderList(this)),
       files_(new FileList(this)),
+      name_label_(
+          new QLabel(base::own_text(session_.language, shell::Text::chooser_file_name), this)),
       name_(new QLineEdit(this)),
       confirm_(new QPushButton(QStringLiteral("OK"), this)),
       cancel_(new QPushButton(QStringLiteral("Cancel"), this)) {
-    setObjectName(QStringLiteral("Form4"));
-    drives_->setObjectName(QStringLiteral("Drive1"));
-    folders_->setObjectName(QStringLiteral("Dir1"));
-    files_->setObjectName(QStringLiteral("File1"));
-    name_->setObjectName(QStringLiteral("Text1"));
-    confirm_->setObjectName(QStringLiteral("Command1"));
-    cancel_->setObjectName(QStringLiteral("Command2"));
+    name_controls();
     lay_out();
-
     connect(drives_, &QComboBox::activated, this, &Form4::change_drive);
     connect(folders_, &FolderList::opened, this, &Form4::show_files);
+    connect(folders_, &FolderList::entered, this, [this] {
+        if (location().is_folder)
+            confirm();
+    });
     connect(files_, &QListWidget::itemSelectionChanged, this, &Form4::take_selected_name);
     connect(files_, &QListWidget::itemClicked, this, &Form4::take_selected_name);
     connect(files_, &QListWidget::itemDoubleClicked, this, &Form4::confirm);
@@ -111,28 +95,59 @@ void Form4::reject() {
     QDialog::reject();
 }
 
+void Form4::name_controls() {
+    setObjectName(QStringLiteral("Form4"));
+    wanted_->setObjectName(QStringLiteral("Label1"));
+    shown_->setObjectName(QStringLiteral("Label2"));
+    drives_->setObjectName(QStringLiteral("Drive1"));
+    folders_->setObjectName(QStringLiteral("Dir1"));
+    files_->setObjectName(QStringLiteral("File1"));
+    name_label_->setObjectName(QStringLiteral("Label3"));
+    name_->setObjectName(QStringLiteral("Text1"));
+    confirm_->setObjectName(QStringLiteral("Command1"));
+    cancel_->setObjectName(QStringLiteral("Command2"));
+
+    drives_->setAccessibleName(base::own_text(session_.language, shell::Text::chooser_drive));
+    drives_->setToolTip(base::own_text(session_.language, shell::Text::chooser_drive));
+    folders_->setAccessibleName(base::own_text(session_.language, shell::Text::chooser_folders));
+    folders_->setToolTip(base::own_text(session_.language, shell::Text::chooser_folders_tip));
+    files_->setAccessibleName(base::own_text(session_.language, shell::Text::chooser_files));
+    files_->setToolTip(base::own_text(session_.language, shell::Text::chooser_files));
+    name_label_->setBuddy(name_);
+    name_->setAccessibleName(base::without_marks(name_label_->text()));
+    name_->setToolTip(base::own_text(session_.language, shell::Text::chooser_file_name_tip));
+}
+
 void Form4::lay_out() {
     const QIcon drive_icon = style()->standardIcon(QStyle::SP_DriveHDIcon);
     for (const auto& drive : drives())
         drives_->addItem(drive_icon, drive);
+    QFont heading = wanted_->font();
+    heading.setBold(true);
+    wanted_->setFont(heading);
     confirm_->setDefault(true);
 
+    auto* name = new QHBoxLayout;
+    name->addWidget(name_label_);
+    name->addWidget(name_);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(confirm_);
     buttons->addWidget(cancel_);
     auto* grid = new QGridLayout(this);
-    grid->addWidget(drives_, 0, 0);
-    grid->addWidget(folders_, 1, 0);
-    grid->addWidget(files_, 0, 1, 2, 1);
-    grid->addWidget(name_, 2, 0, 1, 2);
-    grid->addLayout(buttons, 3, 0, 1, 2);
+    grid->addWidget(wanted_, 0, 0, 1, 2);
+    grid->addWidget(shown_, 1, 0, 1, 2);
+    grid->addWidget(drives_, 2, 0);
+    grid->addWidget(folders_, 3, 0);
+    grid->addWidget(files_, 2, 1, 2, 1);
+    grid->addLayout(name, 4, 0, 1, 2);
+    grid->addLayout(buttons, 5, 0, 1, 2);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
     resize(initial_size);
 }
 
-void Form4::activate() {
+void Form4::apply_captions() {
     setWindowTitle(QApplication::applicationDisplayName());
     for (QPushButton* button : {confirm_, cancel_}) {
         const auto caption =
@@ -140,34 +155,41 @@ void Form4::activate() {
         if (caption)
             button->setText(base::to_qstring(*caption));
     }
+    const auto wanted = session_.language.caption(location().command);
+    wanted_->setText(base::without_marks(wanted ? base::to_qstring(*wanted)
+                                                : base::from_utf8(location().wanted)));
+}
+
+void Form4::activate() {
+    apply_captions();
     session_.cancelled_flag = 0;
 
-    const ChooserKind kind = session_.chooser_kind;
+    const bool saves = session_.chooser_kind == ChooserKind::CSV2;
+    name_label_->setVisible(saves);
+    name_->setVisible(saves);
     const std::string stored = with_drive(path());
     show_drive_of(stored);
-    name_->setVisible(kind == ChooserKind::CSV2);
-    if (location_of(kind).is_folder) {
+    if (location().is_folder) {
         folders_->open(stored);
         folders_->setFocus();
         return;
     }
-    path() = base::folder_of(stored);
-    folders_->open(path().empty() ? base::to_bytes(drives_->currentText()) : path());
-    if (kind == ChooserKind::CSV2) {
-        path() = base::in_folder(folders_->folder(), base::to_bytes(name_->text()));
+    const std::string folder = base::folder_of(stored);
+    folders_->open(folder.empty() ? base::to_bytes(drives_->currentText()) : folder);
+    if (base::is_storable_path(folders_->native_folder()))
+        path() = base::in_folder(folders_->folder(),
+                                 saves ? base::to_bytes(name_->text()) : files_->file_name());
+    if (saves)
         name_->setFocus();
-    } else {
-        path() = base::in_folder(folders_->folder(), files_->file_name());
+    else
         files_->setFocus();
-    }
 }
 
 void Form4::show_drive_of(std::string_view path) {
     const int index = drives_->findText(base::to_qstring(path.substr(0, 1)), Qt::MatchStartsWith);
     if (path.empty() || index < 0)
         throw data::RunTimeError(data::ErrorNumber::path_not_found,
-                                 "the location " +
-                                     std::string(location_of(session_.chooser_kind).name) + ", \"" +
+                                 "the location " + std::string(location().name) + ", \"" +
                                      std::string(path) + "\": a path on a drive was expected");
     drives_->setCurrentIndex(index);
 }
@@ -179,8 +201,10 @@ void Form4::change_drive() {
 }
 
 void Form4::show_files() {
-    files_->show_files(folders_->native_folder(),
-                       base::to_qstring(location_of(session_.chooser_kind).pattern));
+    const QString& folder = folders_->native_folder();
+    const QString pattern = base::from_utf8(location().pattern);
+    files_->show_files(folder, pattern);
+    shown_->show_text(QDir::toNativeSeparators(QDir(folder).filePath(pattern)));
 }
 
 void Form4::take_selected_name() {
@@ -189,27 +213,50 @@ void Form4::take_selected_name() {
 }
 
 void Form4::confirm() {
-    switch (session_.chooser_kind) {
-    case ChooserKind::GFX:
-        path() = folders_->folder();
-        break;
-    case ChooserKind::GFX2:
-        confirm_terrain_art();
-        break;
-    case ChooserKind::CSV:
-    case ChooserKind::BMP:
-        if (!confirm_file())
-            return;
-        break;
-    case ChooserKind::CSV2:
-        if (!confirm_name_to_save())
-            return;
-        break;
-    }
-    accept();
+    if (take_choice())
+        accept();
 }
 
-bool Form4::confirm_file() {
+bool Form4::take_choice() {
+    switch (session_.chooser_kind) {
+    case ChooserKind::GFX:
+        return take_graphics_folder();
+    case ChooserKind::GFX2:
+        return take_terrain_art();
+    case ChooserKind::CSV:
+    case ChooserKind::BMP:
+        return take_file();
+    case ChooserKind::CSV2:
+        return take_name_to_save();
+    }
+    return false;
+}
+
+bool Form4::take_graphics_folder() {
+    if (!folders_->open_highlighted() || !can_take_open_folder())
+        return false;
+    path() = folders_->folder();
+    return true;
+}
+
+bool Form4::take_terrain_art() {
+    if (!folders_->open_highlighted() || !can_take_open_folder())
+        return false;
+    const bool is_complete = is_complete_terrain_art(files_->names());
+    session_.configuration.terrain_art_flag = is_complete ? 1 : 0;
+    if (is_complete) {
+        path() = folders_->folder();
+        emit terrain_art_accepted();
+    } else {
+        base::show_message(session_, this,
+                           session_.language.message(data::Message::terrain_art_incomplete));
+    }
+    return true; // closes the chooser in both cases
+}
+
+bool Form4::take_file() {
+    if (!folders_->is_still_there() || !can_take_open_folder())
+        return false;
     const std::string name = files_->file_name();
     path() = base::in_folder(folders_->folder(), name);
     if (name.empty())
@@ -217,38 +264,44 @@ bool Form4::confirm_file() {
     return !name.empty();
 }
 
-bool Form4::confirm_name_to_save() {
-    std::string name = base::to_bytes(name_->text());
-    if (name.empty()) {
+bool Form4::take_name_to_save() {
+    QString name = name_->text().normalized(QString::NormalizationForm_C);
+    if (name.isEmpty()) {
         report_missing_name();
         return false;
     }
-    if (data::find_ignoring_case(name, province_file_extension) == std::string::npos)
+    const bool is_full = base::is_full_path(name);
+    if (!is_full && (!folders_->is_still_there() || !can_take_open_folder()))
+        return false;
+    if (is_full ? !base::is_storable_path(name) : !base::is_storable_text(name)) {
+        base::show_unstorable(session_, this);
+        return false;
+    }
+    if (!name.contains(province_file_extension, Qt::CaseInsensitive))
         name += province_file_extension;
-    name_->setText(base::to_qstring(name));
-    path() = base::in_folder(folders_->folder(), name);
+    name_->setText(name);
+    path() = is_full ? base::stored_path(name)
+                     : base::in_folder(folders_->folder(), base::to_bytes(name));
     return true;
 }
 
-void Form4::confirm_terrain_art() {
-    auto& flag = session_.configuration.terrain_art_flag;
-    if (is_complete_terrain_art(files_->names())) {
-        path() = folders_->folder();
-        flag = 1;
-        return;
-    }
-    base::show_message(session_, this,
-                       session_.language.message(data::Message::terrain_art_incomplete));
-    flag = 0;
-    activate();
+bool Form4::can_take_open_folder() {
+    const bool can = base::is_storable_path(folders_->native_folder());
+    if (!can)
+        base::show_unstorable(session_, this);
+    return can;
 }
 
 void Form4::report_missing_name() {
     base::show_message(session_, this, session_.language.message(data::Message::name_missing));
 }
 
+const Location& Form4::location() const {
+    return locations[session_.chooser_kind];
+}
+
 std::string& Form4::path() const {
-    return session_.configuration.*location_of(session_.chooser_kind).path;
+    return session_.configuration.*location().path;
 }
 
 } // namespace gfx

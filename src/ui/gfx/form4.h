@@ -6,6 +6,7 @@
 #include <string_view>
 
 class QComboBox;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 
@@ -15,8 +16,10 @@ struct Session;
 
 namespace gfx {
 
+class ElidedLabel;
 class FileList;
 class FolderList;
+struct Location;
 
 /// The location chooser. The session's chooser kind says what is chosen; the choice lands in the
 /// configuration's path of that kind, the answer in the cancelled flag: 0 confirmed, 1 cancelled.
@@ -33,24 +36,37 @@ class Form4 : public QDialog {
   public slots:
     void reject() override;
 
+  signals:
+    /// A folder with complete terrain art was chosen.
+    void terrain_art_accepted();
+
   private:
+    void name_controls();
     void lay_out();
     void activate();
+    void apply_captions();
     void show_drive_of(std::string_view path);
     void change_drive();
     void show_files();
     void take_selected_name();
     void confirm();
-    bool confirm_file();
-    bool confirm_name_to_save();
-    void confirm_terrain_art();
+    bool take_choice();
+    bool take_graphics_folder();
+    bool take_terrain_art();
+    bool take_file();
+    bool take_name_to_save();
+    bool can_take_open_folder();
     void report_missing_name();
+    const Location& location() const;
     std::string& path() const;
 
     shell::Session& session_;
+    QLabel* wanted_;
+    ElidedLabel* shown_;
     QComboBox* drives_;
     FolderList* folders_;
     FileList* files_;
+    QLabel* name_label_;
     QLineEdit* name_;
     QPushButton* confirm_;
     QPushButton* cancel_;

@@ -3,9 +3,11 @@
 #include "base/captions.h"
 #include "base/messages.h"
 #include "base/qt_text.h"
+#include "base/stored_path.h"
 #include "shell/session.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -29,6 +31,7 @@ Form5::Form5(shell::Session& session, QWidget* owner)
     label->setObjectName(QStringLiteral("Label1"));
     label->setBuddy(name_);
     name_->setObjectName(QStringLiteral("Text1"));
+    name_->setAccessibleName(base::without_marks(label->text()));
     // The key ends with a blank.
     auto* confirm =
         new QPushButton(base::dialog_caption(session.language, "Form5.Command1 ", "OK"), this);
@@ -43,13 +46,24 @@ Form5::Form5(shell::Session& session, QWidget* owner)
     column->addWidget(confirm, 0, Qt::AlignRight);
 }
 
+void Form5::keyPressEvent(QKeyEvent* event) {
+    // Closed without a name the set would be added all the same, under the name before.
+    if (!event->matches(QKeySequence::Cancel))
+        QDialog::keyPressEvent(event);
+}
+
 void Form5::confirm() {
-    const std::string name = base::to_bytes(name_->text());
-    if (name.empty()) {
+    // An accent typed on its own and its letter are one character of the code page.
+    const QString name = name_->text().normalized(QString::NormalizationForm_C);
+    if (name.isEmpty()) {
         base::show_message(session_, this, session_.language.message(data::Message::name_missing));
         return;
     }
-    session_.graphics.current_set_name = name;
+    if (!base::is_storable_text(name)) {
+        base::show_unstorable(session_, this);
+        return;
+    }
+    session_.graphics.current_set_name = base::to_bytes(name);
     accept();
 }
 

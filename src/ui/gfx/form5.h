@@ -18,6 +18,9 @@ class Form5 : public QDialog {
   public:
     Form5(shell::Session& session, QWidget* owner);
 
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
   private:
     void confirm();
 

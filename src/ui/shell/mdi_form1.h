@@ -50,7 +50,8 @@ class MDIForm1 : public QMainWindow {
     /// Previews the set of a kind's item, counted from 1.
     void preview(gfx::SpriteKind kind, int item);
     void toggle_drawings();
-    /// Takes the language of the item, counted from 0, for the next start.
+    /// Takes the language of the item, counted from 0, for the next start; one that could not be
+    /// read then is refused.
     void choose_language(int item);
     void propos();
 

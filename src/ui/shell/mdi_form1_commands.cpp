@@ -10,6 +10,7 @@
 #include "gfx/form3.h"
 #include "gfx/form4.h"
 #include "map/identification.h"
+#include "shell/error_text.h"
 #include "shell/frm_about.h"
 #include "shell/mdi_form1.h"
 #include "shell/recovery.h"
@@ -91,7 +92,10 @@ data::ReadReport MDIForm1::open_province_file(const std::string& path) {
 }
 
 void MDIForm1::gfx() {
-    gfx::Form3(session_, this).exec();
+    gfx::Form3 form(session_, this);
+    connect(&form, &gfx::Form3::terrain_art_accepted, action("dessin_menu"),
+            [this] { action("dessin_menu")->setEnabled(true); });
+    form.exec();
     show_graphics();
 }
 
@@ -176,8 +180,20 @@ void MDIForm1::options() {
 }
 
 void MDIForm1::choose_language(int item) {
-    session_.configuration.language_file =
-        base::to_bytes(languages_.at(item) + QStringLiteral(".lng"));
+    const QString file = languages_.at(item) + QStringLiteral(".lng");
+    if (!base::is_storable(file)) {
+        base::show_unstorable(session_, this);
+        return;
+    }
+    try {
+        read_language_file(session_, base::to_bytes(file));
+    } catch (const data::RunTimeError& error) {
+        base::show_message(
+            session_, this,
+            session_.language.text(Text::language_refused, {text_of(error, session_.language)}));
+        return;
+    }
+    session_.configuration.language_file = base::to_bytes(file);
     base::show_message(session_, this, session_.language.message(data::Message::language_notice));
 }
 

@@ -8,6 +8,7 @@
 namespace {
 
 using data::FieldNumber;
+using editor::fields;
 
 constexpr auto treaty_spain = data::field_number(data::column::treaty_spain);
 constexpr auto treaty_portugal = data::field_number(data::column::treaty_portugal);

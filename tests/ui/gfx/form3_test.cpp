@@ -120,8 +120,8 @@ TEST_F(Form3Test, AddsASetOfEveryKind) {
     run([&](gfx::Form3& form) {
         select(form, "File1", "one.spr");
         for (const auto& kind : kinds) {
-            add(form, kind.button, "a, \"b\"");
-            EXPECT_EQ(texts(form, kind.list), "a, \"b\"");
+            add(form, kind.button, "a, b");
+            EXPECT_EQ(texts(form, kind.list), "a, b");
             EXPECT_EQ(count(kind.kind), 1) << kind.button;
             EXPECT_EQ(session.graphics.files.saved().back().kind, gfx::info(kind.kind).word);
         }
@@ -249,6 +249,76 @@ TEST_F(Form3Test, FolderButtonsOpenTheChooser) {
         press(form, "Command1");
         EXPECT_EQ(session.cancelled_flag, 1);
     });
+}
+
+TEST_F(Form3Test, WhatLooksSelectedIsSelected) {
+    session.graphics.sprites.of(SpriteKind::port).rows[0].set_name = "quay";
+    session.graphics.sprites.of(SpriteKind::port).rows[1].set_name = "pier";
+    run([](gfx::Form3& form) {
+        auto& ports = control<QListWidget>(form, "List_port");
+        control<QPushButton>(form, "sort_port").setFocus();
+        QTest::keyClick(&form, Qt::Key_Tab);
+        ASSERT_TRUE(ports.hasFocus());
+        EXPECT_EQ(ports.currentItem(), nullptr) << "nothing is selected";
+        QTest::keyClick(&ports, Qt::Key_Down);
+        EXPECT_EQ(ports.selectedItems(), QList{ports.item(0)});
+        const QPoint place = ports.visualItemRect(ports.item(1)).center();
+        for (int times = 0; times < 2; ++times)
+            QTest::mouseClick(ports.viewport(), Qt::LeftButton, Qt::ControlModifier, place);
+        EXPECT_EQ(ports.currentRow(), 1);
+        EXPECT_EQ(ports.selectedItems(), QList{ports.item(1)});
+    });
+}
+
+TEST_F(Form3Test, EnterPressesTheButtonWithTheFocus) {
+    session.graphics.sprites.of(SpriteKind::ville).rows[0].set_name = "towns";
+    run([](gfx::Form3& form) {
+        select(form, "List_ville", "towns");
+        QTest::keyClick(&control<QListWidget>(form, "List_ville"), Qt::Key_Return);
+        EXPECT_EQ(texts(form, "List_ville"), "towns") << "no button has the focus";
+        control<QPushButton>(form, "sort_ville").setFocus();
+        QTest::keyClick(form.focusWidget(), Qt::Key_Return);
+        EXPECT_EQ(texts(form, "List_ville"), "");
+        control<QPushButton>(form, "Command3").setFocus();
+        QTest::keyClick(form.focusWidget(), Qt::Key_Enter);
+        EXPECT_FALSE(form.isVisible());
+    });
+}
+
+TEST_F(Form3Test, SetNameThatCannotBeStoredIsRefusedAndEscapeDoesNothing) {
+    run([this](gfx::Form3& form) {
+        select(form, "File1", "one.spr");
+        press(form, "entre_ville", [this](QWidget& box) {
+            auto& name = control<QLineEdit>(box, "Text1");
+            for (const char* refused : {"a\"b", "a\nb", "\xCE\xB1"}) {
+                name.selectAll();
+                name.insert(QString::fromUtf8(refused));
+                EXPECT_EQ(message_during([&] { press(box, "Command1"); }),
+                          session.language.text(shell::Text::choice_unstorable));
+            }
+            QTest::keyClick(&name, Qt::Key_Escape);
+            EXPECT_TRUE(box.isVisible());
+            name.selectAll();
+            name.insert(QString::fromUtf8("e\xCC\x81t\xC3\xA9")); // the first accent on its own
+            press(box, "Command1");
+        });
+        EXPECT_EQ(texts(form, "List_ville"), "\xE9t\xE9");
+    });
+}
+
+TEST_F(Form3Test, FilesOfAFolderThatCannotBeStoredAreRefused) {
+    const QString outside = QString::fromUtf8("\xCE\xB1");
+    folder.write(outside + "/one.spr");
+    session.configuration.graphics_folder = "c:";
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(folder.native(outside));
+    run([this](gfx::Form3& form) {
+        select(form, "File1", "one.spr");
+        EXPECT_EQ(message_during([&] { press(form, "entre_ville"); }),
+                  session.language.text(shell::Text::choice_unstorable));
+    });
+    QDir::setCurrent(before);
+    EXPECT_EQ(session.graphics.files.count(), 0);
 }
 
 } // namespace

