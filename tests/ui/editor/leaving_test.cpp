@@ -96,7 +96,7 @@ TEST_F(Panel, WhatLeavesAFieldAndWhatDoesNot) {
     QTest::mouseClick(&visible("nom_province"), Qt::LeftButton);
     session.configuration.province_save_path = folder.path("x.csv");
     save_as(QStringLiteral("other"));
-    EXPECT_TRUE(has_file(QStringLiteral("other.csv")));
+    EXPECT_TRUE(folder.has(QStringLiteral("other.csv")));
     EXPECT_EQ(cells(1), "a|b");
 }
 
