@@ -15,7 +15,7 @@ TEST(Picture, PaintsEveryRowOfWhatIsExposed) {
     QImage whole(image.size(), QImage::Format_RGB32);
     map::MapReader(image).read(whole.rect(), whole);
     map::Picture picture(
-        image, [](QPainter&, const QRect&) {}, nullptr);
+        image, [](QPainter&, const QRegion&) {}, nullptr);
     for (const QRect& part : {QRect(0, 0, 50, 100), QRect(3, 5, 40, 64), QRect(0, 31, 50, 1),
                               QRect(7, 9, 9, 33), QRect(49, 99, 1, 1)}) {
         QImage painted(part.size(), QImage::Format_RGB32);
