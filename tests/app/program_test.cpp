@@ -75,9 +75,13 @@ TEST_F(Program, NamesTheFileThatItCannotStartWith) {
         const char* language; // bytes of own.lng, none: the file is absent
         std::vector<const char*> errors;
     } rows[] = {
-        {"\"LAN\",\"own.lng\",0\r\n", nullptr, {"own.lng", "ile not found"}},
+        {"\"LAN\",\"own.lng\",0\r\n",
+         nullptr,
+         {"config.txt, record LAN", "own.lng: ", "ile not found"}},
         {"\"LAN\",\"own.lng\",0\r\n", too_many.c_str(), {"own.lng", "line 12", "RELIGION_"}},
         {"\"LAN\",\"own.lng\",0\r\n", "\"MENU_a\"", {"own.lng", "line 1"}},
+        {"\"LAN\",\"own.lng\",0\r\n", "\xFF\xFE\"", {"record LAN", "own.lng", "UTF-16"}},
+        {"\xFE\xFF", nullptr, {"config.txt", "UTF-16"}},
         {"\"LAN\",\"english.lng\"\r\n", nullptr, {"config.txt", "inside a record"}},
         {"\"GFX2\",\"c:\",40000\r\n", nullptr, {"config.txt", "line 1", "40000"}},
         {"\"GFX\",\"c:\",0\r\n\"ville\",\"c:\\absent.spr\",\"x\"\r\n",
@@ -104,5 +108,32 @@ TEST_F(Program, ASystemWithoutADisplayIsToldSo) {
     EXPECT_NE(errors.find("no display"), std::string::npos) << errors;
     EXPECT_EQ(run({"--screenshot", "picture.png"}), 0) << errors;
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(Program, SignalsThatEndItAndThatDoNot) {
+    const struct {
+        const char* ignored; // by who starts the program, as nohup does
+        std::vector<const char*> sent;
+        int status;
+    } rows[] = {
+        {"PIPE", {"QUIT"}, 128 + 3},
+        {"QUIT", {"PIPE", "HUP"}, 128 + 1},
+        {"HUP INT", {"HUP", "INT", "TERM"}, 128 + 15},
+    };
+    for (const auto& row : rows) {
+        process.start("/bin/sh", {"-c", QStringLiteral("trap '' %1; exec \"$@\"").arg(row.ignored),
+                                  "sh", PROGRAM, "--folder", folder.native({}), "--csv",
+                                  QString::fromStdString(folder.write("a.csv", ""))});
+        process.setReadChannel(QProcess::StandardError);
+        while (!process.canReadLine())
+            ASSERT_TRUE(process.waitForReadyRead(20000)) << "until it works";
+        for (const char* signal : row.sent)
+            QProcess::execute("kill", {"-s", signal, QString::number(process.processId())});
+        ASSERT_TRUE(process.waitForFinished(20000));
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit) << row.ignored;
+        EXPECT_EQ(process.exitCode(), row.status) << row.ignored;
+    }
+}
+#endif
 
 } // namespace

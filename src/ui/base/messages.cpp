@@ -17,6 +17,8 @@ int show_box(QWidget* owner, const char* name, QMessageBox::Icon icon, const std
                     owner);
     box.setObjectName(QString::fromLatin1(name));
     box.setTextFormat(Qt::PlainText);
+    // Text that can be marked also breaks within a long path instead of leaving the box.
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     box.setDefaultButton(preset);
     return box.exec();
 }

@@ -68,13 +68,14 @@ QString path_text(std::string_view bytes) {
     const QString spelled = to_qstring(bytes);
     QString text;
     for (qsizetype at = 0; at < spelled.size(); ++at) {
-        bool is_number = false;
-        const QString number = spelled.mid(at + 1, digits);
-        ushort unit = 0;
-        if (spelled[at] == QLatin1Char(substitute) && number.size() == digits)
-            unit = number.toUShort(&is_number, hexadecimal);
-        text += is_number ? QChar(unit) : spelled[at];
-        at += is_number ? digits : 0;
+        if (spelled[at] == QLatin1Char(substitute) && at + digits < spelled.size()) {
+            bool is_number = false;
+            const ushort unit = spelled.mid(at + 1, digits).toUShort(&is_number, hexadecimal);
+            text += is_number ? QChar(unit) : spelled[at];
+            at += is_number ? digits : 0;
+        } else {
+            text += spelled[at];
+        }
     }
     return text;
 }

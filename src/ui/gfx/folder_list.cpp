@@ -92,7 +92,7 @@ void FolderList::open(std::string_view path) {
     if (!is_absolute || !QDir(folder).exists())
         throw data::RunTimeError(
             data::ErrorNumber::path_not_found,
-            (is_absolute ? base::to_bytes(QDir::toNativeSeparators(folder)) : std::string(path)) +
+            (is_absolute ? base::path_bytes(QDir::toNativeSeparators(folder)) : std::string(path)) +
                 ": the folder does not exist");
     list(folder);
 }

@@ -15,7 +15,7 @@ class Notice : public ElidedLabel {
     void tell(const QString& text);
 
   private:
-    QTimer time_;
+    QTimer time_{this};
 };
 
 } // namespace shell

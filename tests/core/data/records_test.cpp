@@ -30,6 +30,20 @@ TEST(Records, Fields) {
         EXPECT_EQ(fields_of(each.bytes), each.fields) << each.bytes;
 }
 
+TEST(Records, AByteOrderMarkIsPassedOverAndUtf16Refused) {
+    EXPECT_EQ(fields_of("\xEF\xBB\xBF\"GFX\",0"), (std::vector<std::string>{"GFX", "0"}));
+    using namespace std::string_view_literals;
+    for (const auto bytes : {"\xFF\xFE\"\0"sv, "\xFE\xFF\0\""sv, "\"\0M\0"sv, "\0\"\0M"sv}) {
+        try {
+            fields_of(bytes);
+            FAIL() << bytes;
+        } catch (const data::RunTimeError& error) {
+            EXPECT_NE(error.place().find("UTF-16"), std::string::npos) << error.place();
+        }
+    }
+    EXPECT_EQ(fields_of("\0\0\0"sv).size(), 1U) << "a file that lost its bytes is something else";
+}
+
 TEST(Records, ErrorsNameTheLine) {
     const struct {
         const char* bytes;
@@ -48,6 +62,8 @@ TEST(Records, ErrorsNameTheLine) {
             EXPECT_TRUE(error.place().starts_with(each.place)) << error.place();
         }
     }
+    const data::RunTimeError error(data::ErrorNumber::overflow, std::string("a\0b", 3));
+    EXPECT_TRUE(std::string(error.what()).ends_with("\na\\0b")) << "a NUL does not end the words";
     data::RecordReader reader("a\r\n");
     reader.next();
     EXPECT_THROW(reader.next(), data::RunTimeError);

@@ -35,6 +35,25 @@ TEST(StoredPath, ComesFromNative) {
     EXPECT_EQ(stored_path("/:x/y"), "c:\\:x\\y");
 }
 
+TEST(StoredPath, HoldsEveryNameThatConfigTxtCannot) {
+    for (const char* name : {"/tmp/Карты 地図/x.csv", "/a/\U0001F30D", "/e\u0301",
+                             "/\x1A/\x1A"
+                             "0041"}) {
+        const QString native = QString::fromUtf8(name);
+        const std::string stored = stored_path(native);
+        EXPECT_EQ(native_path(stored), native) << name;
+        EXPECT_EQ(stored_path(base::path_text(stored)), stored) << "as a field shows it";
+        EXPECT_EQ(native_path(base::folder_of(stored) + "\xE9t\xE9"),
+                  native.left(native.lastIndexOf('/') + 1) + QString::fromUtf8("été"));
+    }
+    EXPECT_FALSE(base::is_storable_text(QString::fromUtf8("/tmp/Карты")));
+    EXPECT_FALSE(base::is_storable_text("/tmp/\"x\""));
+    EXPECT_EQ(base::path_text("c:\\a\x1A"
+                              "4"),
+              base::to_qstring("c:\\a\x1A"
+                               "4"));
+}
+
 TEST(StoredPath, FindsNamesThatDifferInLetterCaseOnly) {
     const support::Folder folder;
     const QDir dir(folder.native());
