@@ -53,7 +53,7 @@ class Recovery : public support::Program {
 };
 
 TEST_F(Recovery, ASignalLosesNeitherEnteredNorTypedTexts) {
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGQUIT}) {
         use(renames);
         EXPECT_EQ(end_by(signal), 128 + signal);
         ASSERT_EQ(copies(), QStringList("program/recovered.csv"));
