@@ -4,7 +4,6 @@
 #include "regions.h"
 
 #include <algorithm>
-#include <array>
 
 namespace sample {
 
@@ -28,15 +27,14 @@ Border border(const World& world, const PoliticalColours& political, std::size_t
 
 /// Returns the moisture around the cell, so that its colours pass gently into each other.
 double smooth_moisture(const Grid<float>& moisture, int cell) {
-    constexpr std::array<double, 3> weights = {0.125, 0.75, 0.125};
+    const auto weight = [](int step) { return step == 0 ? 0.75 : 0.125; };
     double sum = 0;
     for (int dx = -1; dx <= 1; ++dx) {
         double down = 0;
         for (int dy = -1; dy <= 1; ++dy)
-            down += weights[static_cast<std::size_t>(dy + 1)] *
-                    static_cast<double>(
-                        moisture.near(moisture.column(cell) + dx, moisture.row(cell) + dy));
-        sum += weights[static_cast<std::size_t>(dx + 1)] * down;
+            down += weight(dy) * static_cast<double>(moisture.near(moisture.column(cell) + dx,
+                                                                   moisture.row(cell) + dy));
+        sum += weight(dx) * down;
     }
     return sum;
 }
