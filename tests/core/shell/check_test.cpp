@@ -218,6 +218,9 @@ TEST(Check, EveryWrongCellIsOneProblem) {
     set(table, 1000, column::goods, "Gold");
     expected.emplace_back(
         "F: province 1000, 18 (Mine(1) ?): the mine flag is 0, but the goods are 'Gold'");
+    set(table, 1001, column::mine_flag, "1");
+    set(table, 1001, column::goods, "golt");
+    expected.emplace_back("F: province 1001, 20 (Goods): 'golt' is no code of the language file");
     EXPECT_EQ(printed(check_values(table, english(), lines)), expected);
 
     for (const auto& problem : check_values(table, shell::LanguageTexts(), lines))
