@@ -80,34 +80,37 @@ class PlaceChecker {
                  .value = std::to_string(place->pixels)});
     }
 
-    void check_position(map::Mode mode, const map::StoredPosition& position) {
-        const auto* columns = std::find_if(
-            map::position_columns.begin(), map::position_columns.end(),
-            [&](const auto& row) { return row.mode == mode && row.drawing == position.drawing; });
-        const int province = position.province;
-        Problem problem{
-            .what = Text::problem_outside_map,
-            .province = province,
-            .column = columns->x,
-            .value = cell(province, columns->x) + ", " + cell(province, columns->y),
-        };
-        const bool is_inside = position.x >= 0 && position.x < id_map_.width && position.y >= 0 &&
-                               position.y < id_map_.height;
-        if (!is_inside) {
-            add(std::move(problem));
-        } else if (mode != map::Mode::port) {
-            const int there =
-                id_map_.province_at(static_cast<int>(position.x), static_cast<int>(position.y));
-            problem.what = Text::problem_other_province;
-            problem.detail = std::to_string(there);
-            if (there != province)
-                add(std::move(problem));
-        }
-        if (mode == map::Mode::port)
-            check_sea(position, std::move(problem), is_inside);
+    void add(Text what, const map::PositionColumns& columns, int province, int other_province = 0) {
+        add({.what = what,
+             .province = province,
+             .column = columns.x,
+             .value = cell(province, columns.x) + ", " + cell(province, columns.y),
+             .detail = std::to_string(other_province)});
     }
 
-    void check_sea(const map::StoredPosition& port, Problem problem, bool is_inside) {
+    void check_position(map::Mode mode, const map::StoredPosition& position) {
+        const auto& columns = *std::find_if(
+            map::position_columns.begin(), map::position_columns.end(),
+            [&](const auto& row) { return row.mode == mode && row.drawing == position.drawing; });
+        const bool is_inside = position.x >= 0 && position.x < id_map_.width && position.y >= 0 &&
+                               position.y < id_map_.height;
+        if (!is_inside)
+            add(Text::problem_outside_map, columns, position.province);
+        if (mode == map::Mode::port)
+            check_sea(columns, position, is_inside);
+        else if (is_inside)
+            check_province(columns, position);
+    }
+
+    void check_province(const map::PositionColumns& columns, const map::StoredPosition& position) {
+        const int there =
+            id_map_.province_at(static_cast<int>(position.x), static_cast<int>(position.y));
+        if (there != position.province)
+            add(Text::problem_other_province, columns, position.province, there);
+    }
+
+    void check_sea(const map::PositionColumns& columns, const map::StoredPosition& port,
+                   bool is_inside) {
         const std::string& name = cell(port.province, data::column::port_sea);
         const double number = data::round_half_even(data::leading_number(name));
         const bool is_province = number >= 1 && number <= data::last_province;
@@ -120,11 +123,8 @@ class PlaceChecker {
             return;
         }
         const auto* place = id_map_.index.place(sea);
-        if (!is_inside || !place || distance(*place, port.x, port.y) <= farthest_port)
-            return;
-        problem.what = Text::problem_port_far;
-        problem.detail = std::to_string(sea);
-        add(std::move(problem));
+        if (is_inside && place && distance(*place, port.x, port.y) > farthest_port)
+            add(Text::problem_port_far, columns, port.province, sea);
     }
 
     const data::ProvinceTable& table_;
