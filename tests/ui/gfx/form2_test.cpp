@@ -173,11 +173,9 @@ TEST_F(Form2Test, BrowsingFillsTheFieldBesideTheButton) {
     session.configuration.map_bitmap_path = stored + "\\";
 
     const auto browse = [](gfx::Form2& form, int index, const char* answer) {
-        QTimer::singleShot(0, &form, [answer] {
-            auto* chooser = QApplication::activeModalWidget();
-            ASSERT_EQ(chooser->objectName(), "Form4");
-            QTest::keyClick(&control<QListWidget>(*chooser, "File1"), Qt::Key_Down);
-            press(*chooser, answer);
+        const driver::InDialog in_chooser("Form4", [answer](QDialog& chooser) {
+            QTest::keyClick(&control<QListWidget>(chooser, "File1"), Qt::Key_Down);
+            press(chooser, answer);
         });
         press(form, QByteArray("Command2(") + QByteArray::number(index) + ')');
         return base::to_bytes(

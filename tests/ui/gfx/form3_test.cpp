@@ -11,14 +11,10 @@
 
 namespace {
 
+using driver::control;
 using driver::message_during;
+using driver::press;
 using gfx::SpriteKind;
-
-/// Names with accents, too.
-template <class Control>
-Control& control(QWidget& window, const char* name) {
-    return *window.findChild<Control*>(QString::fromUtf8(name));
-}
 
 class Form3Test : public testing::Test {
   protected:
@@ -51,27 +47,15 @@ class Form3Test : public testing::Test {
                           items.visualItemRect(found.front()).center());
     }
 
-    static void press(QWidget& form, const char* button) {
-        QTest::mouseClick(&control<QPushButton>(form, button), Qt::LeftButton);
-    }
-
     /// Presses the button; in the set name box that it opens, does what `act` says.
-    static void press(gfx::Form3& form, const char* button,
-                      const std::function<void(QWidget&)>& act) {
-        bool opened = false;
-        QTimer::singleShot(0, [&] {
-            QWidget* box = QApplication::activeModalWidget();
-            opened = box != nullptr && box->objectName() == QStringLiteral("Form5");
-            if (opened)
-                act(*box);
-        });
+    static void press_and(gfx::Form3& form, const char* button,
+                          const std::function<void(QDialog&)>& act) {
+        const driver::InDialog naming("Form5", act);
         press(form, button);
-        QCoreApplication::processEvents();
-        EXPECT_TRUE(opened);
     }
 
     static void add(gfx::Form3& form, const char* button, const char* name) {
-        press(form, button, [name](QWidget& box) {
+        press_and(form, button, [name](QDialog& box) {
             QTest::keyClicks(&control<QLineEdit>(box, "Text1"), QString::fromLatin1(name));
             press(box, "Command1");
         });
@@ -166,7 +150,7 @@ TEST_F(Form3Test, LimitIsTestedBeforeAFileIsAskedFor) {
 TEST_F(Form3Test, SetNameBoxAsksAgainForAMissingName) {
     run([&](gfx::Form3& form) {
         select(form, "File1", "one.spr");
-        press(form, "entre_ville", [](QWidget& box) {
+        press_and(form, "entre_ville", [](QDialog& box) {
             EXPECT_EQ(control<QLabel>(box, "Label1").text(), "Nom");
             EXPECT_EQ(control<QPushButton>(box, "Command1").text(), "Oui");
             EXPECT_EQ(message_during([&] { press(box, "Command1"); }), "no name");
@@ -175,7 +159,7 @@ TEST_F(Form3Test, SetNameBoxAsksAgainForAMissingName) {
             QTest::keyClick(&control<QLineEdit>(box, "Text1"), Qt::Key_Return);
         });
         EXPECT_EQ(texts(form, "List_ville"), "towns");
-        press(form, "entre_ville", [](QWidget& box) {
+        press_and(form, "entre_ville", [](QDialog& box) {
             QTest::keyClicks(&control<QLineEdit>(box, "Text1"), "never confirmed");
             box.close();
         });
@@ -232,20 +216,18 @@ TEST_F(Form3Test, FolderButtonsOpenTheChooser) {
     folder.write("sub/inner.spr", "");
     const std::string sub = session.configuration.graphics_folder + "\\sub";
     const auto press_ok = [this](gfx::ChooserKind expected) {
-        QTimer::singleShot(0, [this, expected] {
-            QWidget* chooser = QApplication::activeModalWidget();
-            ASSERT_EQ(chooser->objectName(), "Form4");
+        return driver::InDialog("Form4", [this, expected](QDialog& chooser) {
             EXPECT_EQ(session.chooser_kind, expected);
-            press(*chooser, expected == gfx::ChooserKind::GFX ? "Command1" : "Command2");
+            press(chooser, expected == gfx::ChooserKind::GFX ? "Command1" : "Command2");
         });
     };
     run([&](gfx::Form3& form) {
         session.configuration.graphics_folder = sub;
-        press_ok(gfx::ChooserKind::GFX);
+        const auto graphics = press_ok(gfx::ChooserKind::GFX);
         press(form, "Command2");
         EXPECT_EQ(texts(form, "File1"), "inner.spr");
 
-        press_ok(gfx::ChooserKind::GFX2);
+        const auto terrain_art = press_ok(gfx::ChooserKind::GFX2);
         press(form, "Command1");
         EXPECT_EQ(session.cancelled_flag, 1);
     });
@@ -288,7 +270,7 @@ TEST_F(Form3Test, EnterPressesTheButtonWithTheFocus) {
 TEST_F(Form3Test, SetNameThatCannotBeStoredIsRefusedAndEscapeDoesNothing) {
     run([this](gfx::Form3& form) {
         select(form, "File1", "one.spr");
-        press(form, "entre_ville", [this](QWidget& box) {
+        press_and(form, "entre_ville", [this](QDialog& box) {
             auto& name = control<QLineEdit>(box, "Text1");
             for (const char* refused : {"a\"b", "a\nb", "\xCE\xB1"}) {
                 name.selectAll();

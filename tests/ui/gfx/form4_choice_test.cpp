@@ -122,7 +122,9 @@ TEST_F(Form4Choice, TerrainArtIsLookedForInTheHighlightedFolder) {
     };
     EXPECT_EQ(confirm("two"), "none");
     EXPECT_EQ(session.configuration.terrain_art_flag, 1);
-    EXPECT_EQ(confirm("sub"), "no art");
+    QFile::remove(folder.native("two/ice7.bmp"));
+    folder.make_folder("two/ice7.bmp"); // a folder is no bitmap
+    EXPECT_EQ(confirm("two"), "no art");
     EXPECT_EQ(session.configuration.terrain_art_flag, 0);
 }
 

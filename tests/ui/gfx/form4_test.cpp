@@ -45,8 +45,7 @@ class Form4Test : public testing::Test {
     Form4Test() {
         session.language = shell::LanguageTexts("\"MENU_FORM4.command1\",\"Choisir\"\r\n"
                                                 "\"MENU_Form4.Command2\",\"Quitter\"\r\n"
-                                                "\"MESSAGE_mess4\",\"no name\"\r\n"
-                                                "\"MESSAGE_mess5\",\"no art\"\r\n");
+                                                "\"MESSAGE_mess4\",\"no name\"\r\n");
         for (const char* name : {"b.csv", "A.CSV", "notes.txt", "relief.Bmp", "ship.spr"})
             touch(name);
         QDir(native()).mkpath(QStringLiteral("sub/deep"));
@@ -316,44 +315,6 @@ TEST_F(Form4Test, NamesThatNoStoredPathCanHoldAreNotOffered) {
         EXPECT_EQ(texts(files()),
                   QStringList({"A.CSV", "b.csv", QString::fromUtf8("\xC3\xA9.csv")}));
     });
-}
-
-class TerrainArtTest : public Form4Test {
-  protected:
-    TerrainArtTest() {
-        for (const char* type : {"desert", "forest", "ice", "marsh", "mountain"}) {
-            for (int i = 0; i < 8; ++i)
-                touch(QStringLiteral("sub/%1%2.bmp").arg(type).arg(i));
-        }
-        touch("sub/plains0.bmp");
-        choose(ChooserKind::GFX2, base::stored_path(native()));
-    }
-
-    std::string message_of_confirmation() {
-        std::string message;
-        EXPECT_TRUE(run([&] {
-            double_click(folders(), "sub");
-            message = message_during([&] { press(form, "Command1"); });
-        }));
-        EXPECT_EQ(session.cancelled_flag, 0);
-        return message;
-    }
-};
-
-TEST_F(TerrainArtTest, CompleteFolderIsAccepted) {
-    EXPECT_TRUE(QFile::rename(native() + "/sub/desert0.bmp", native() + "/sub/DESERT0.BMP"));
-    EXPECT_EQ(message_of_confirmation(), "none");
-    EXPECT_EQ(session.configuration.terrain_art_flag, 1);
-    EXPECT_EQ(session.configuration.terrain_art_folder, stored("sub"));
-}
-
-TEST_F(TerrainArtTest, IncompleteFolderIsRefused) {
-    session.configuration.terrain_art_flag = 1;
-    QFile::remove(native() + "/sub/ice7.bmp");
-    QDir(native()).mkpath(QStringLiteral("sub/ice7.bmp")); // a folder is no bitmap
-    EXPECT_EQ(message_of_confirmation(), "no art");
-    EXPECT_EQ(session.configuration.terrain_art_flag, 0);
-    EXPECT_EQ(session.configuration.terrain_art_folder, base::stored_path(native()));
 }
 
 } // namespace

@@ -5,32 +5,6 @@ namespace {
 
 using namespace map_window;
 
-TEST_F(Form1, ShowsOneOfTheMaps) {
-    session.maps.map_2_path = folder.write("2.bmp", plain_map(0xFF112233));
-    session.port_placement.stage = 1;
-    open();
-    EXPECT_EQ(session.port_placement.stage, 0);
-    EXPECT_EQ(form->sizeHint(), QSize(width, height));
-    EXPECT_TRUE(form->has_map_2());
-    struct Row {
-        map::ShownMap which;
-        const char* name;
-        QRgb colour;
-    };
-    for (const Row row : {Row{map::ShownMap::map_2, "Picture2", 0xFF112233},
-                          Row{map::ShownMap::id_map, "Picture_id", 0xFF800000},
-                          Row{map::ShownMap::map_1, "Picture1", paper}}) {
-        form->show_map(row.which);
-        for (const char* name : {"Picture1", "Picture2", "Picture_id"})
-            EXPECT_EQ(surface(name)->isVisible(), std::string(name) == row.name) << name;
-        EXPECT_EQ(seen(row.name).pixel(50, 50), row.colour);
-        EXPECT_EQ(form->grab().toImage().pixel(50, 50), row.colour);
-        clicked.clear();
-        QTest::mouseClick(surface(row.name), Qt::LeftButton, {}, {450, 350});
-        EXPECT_EQ(clicked, "32 ") << row.name;
-    }
-}
-
 TEST_F(Form1, WithoutMap2ItCannotBeChosen) {
     open();
     EXPECT_FALSE(form->has_map_2());

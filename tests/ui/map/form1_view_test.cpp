@@ -5,17 +5,6 @@ namespace {
 
 using namespace map_window;
 
-TEST_F(Form1, MarksWhereThingsStand) {
-    session.mode = Mode::ville;
-    open();
-    click({350, 250});
-    const QImage with_city = seen();
-    EXPECT_NE(with_city.pixel(350, 250), paper);
-    session.mode = Mode::armees;
-    form->selection_or_mode_changed();
-    EXPECT_EQ(seen().pixel(350, 250), paper);
-}
-
 TEST_F(Form1, RepaintsOnlyWhatThePointedProvinceChanges) {
     session.mode = Mode::ville;
     open();

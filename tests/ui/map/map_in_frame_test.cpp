@@ -1,7 +1,6 @@
 #include "support/bitmaps.h"
 #include "support/main_frame.h"
 
-#include <QActionGroup>
 #include <QMdiSubWindow>
 
 /// The map window within the main frame.
@@ -34,12 +33,6 @@ class MapInFrame : public support::MainFrame {
     }
     QPoint scrolled() const {
         return surface().mapTo(surface().parentWidget()->parentWidget(), QPoint(0, 0));
-    }
-    void put_sprites(gfx::SpriteKind kind, const std::vector<std::string>& sets) const {
-        auto& table = session.graphics.sprites.of(kind);
-        for (std::size_t row = 0; row < sets.size(); ++row)
-            table.rows[row] = {folder.path("absent.bmp"), sets[row], 0, 0, 1};
-        table.count = static_cast<int>(sets.size());
     }
 };
 
@@ -93,34 +86,6 @@ TEST_F(MapInFrame, MinimisedMapWindowComesBack) {
     choose("carte", "carte_1");
     EXPECT_TRUE(surface().isVisible());
     EXPECT_EQ(window->geometry(), before);
-}
-
-TEST_F(MapInFrame, PreviewedSetsAreOneChoiceForEachKind) {
-    put_sprites(gfx::SpriteKind::ville, {"Castles", "Domes", "Huts"});
-    put_sprites(gfx::SpriteKind::port, {"Ships", "Piers"});
-    start_with_maps();
-    const auto checked = [&] {
-        std::string names;
-        for (const char* name : {"ville_graph(1)", "ville_graph(2)", "ville_graph(3)",
-                                 "port_graph(1)", "port_graph(2)"}) {
-            if (action(name).isChecked())
-                names += std::string(name) + " ";
-        }
-        return names;
-    };
-    EXPECT_EQ(checked(), "ville_graph(1) port_graph(1) ");
-    choose("graphisme", "ville_graph(3)");
-    choose("graphisme", "ville_graph(3)");
-    EXPECT_EQ(checked(), "ville_graph(3) port_graph(1) ");
-    ASSERT_NE(action("ville_graph(3)").actionGroup(), nullptr);
-    EXPECT_TRUE(action("ville_graph(3)").actionGroup()->isExclusive()) << "shown as radio marks";
-    EXPECT_EQ(action("dessin_graph").actionGroup(), nullptr);
-
-    // The previewed set is taken out: the preview falls back to the first.
-    put_sprites(gfx::SpriteKind::ville, {"Castles", "Domes", ""});
-    frame->enter_mode(map::Mode::normal);
-    EXPECT_EQ(checked(), "ville_graph(1) port_graph(1) ");
-    EXPECT_EQ(session.graphics.previewed_row[gfx::SpriteKind::ville], 0);
 }
 
 TEST_F(MapInFrame, DrawingsGoOffWithTheirArt) {

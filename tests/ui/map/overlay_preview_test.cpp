@@ -177,7 +177,7 @@ TEST_F(OverlayPreviewTest, PaintingInTilesIsPaintingAtOnce) {
             const QImage whole = painted(QRect({0, 0}, view), 1);
             QImage tiled(view, QImage::Format_RGB32);
             QPainter painter(&tiled);
-            constexpr int step = 5;
+            constexpr int step = 10;
             for (int y = 0; y < view.height(); y += step) {
                 for (int x = 0; x < view.width(); x += step) {
                     const QRect tile(x, y, step, step);

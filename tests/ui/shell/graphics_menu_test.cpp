@@ -1,6 +1,7 @@
 #include "support/bitmaps.h"
 #include "support/main_frame.h"
 
+#include <QActionGroup>
 #include <QLabel>
 #include <QListWidget>
 
@@ -48,6 +49,13 @@ class GraphicsMenu : public support::MainFrame {
                 "\"ville\",\"" + folder.path("gfx") + "\\" + name + ".spr\",\"" + name + "\"\r\n";
         folder.write("config.txt", records);
     }
+    static void click_item(QDialog& dialog, const char* list, const char* item) {
+        auto& items = driver::control<QListWidget>(dialog, list);
+        const auto found = items.findItems(item, Qt::MatchExactly);
+        ASSERT_EQ(found.size(), 1);
+        QTest::mouseClick(items.viewport(), Qt::LeftButton, {},
+                          items.visualItemRect(found[0]).center());
+    }
     QRgb seen(QPoint point) const {
         return control<QWidget>("Picture1").grab().toImage().pixel(point);
     }
@@ -80,6 +88,18 @@ TEST_F(GraphicsMenu, ChoosesAmongTheSetsOfTheConfiguration) {
     EXPECT_EQ(seen({32, 32}), blue);
     choose("graphisme", "ville_graph(2)");
     EXPECT_EQ(offered("ville_graph"), "red[blue]") << "chosen again, it stays";
+    ASSERT_NE(action("ville_graph(2)").actionGroup(), nullptr);
+    EXPECT_TRUE(action("ville_graph(2)").actionGroup()->isExclusive()) << "shown as radio marks";
+    EXPECT_EQ(action("dessin_graph").actionGroup(), nullptr);
+
+    in_dialog("Form3", [](QDialog& dialog) {
+        click_item(dialog, "List_ville", "blue");
+        driver::press(dialog, "sort_ville");
+        driver::press(dialog, "Command3");
+    });
+    choose("fichier", "gfx");
+    EXPECT_EQ(offered("ville_graph"), "[red]") << "the previewed set was taken out";
+    EXPECT_EQ(seen({32, 32}), red);
 }
 
 TEST_F(GraphicsMenu, TurnsTheDrawingsOnAndOff) {
@@ -119,11 +139,7 @@ TEST_F(GraphicsMenu, AddedSetsEnableTheirMode) {
     start();
     EXPECT_FALSE(action("ville_menu").isEnabled());
     in_dialog("Form3", [](QDialog& dialog) {
-        auto& files = driver::control<QListWidget>(dialog, "File1");
-        const auto found = files.findItems("blue.spr", Qt::MatchExactly);
-        ASSERT_EQ(found.size(), 1);
-        QTest::mouseClick(files.viewport(), Qt::LeftButton, {},
-                          files.visualItemRect(found[0]).center());
+        click_item(dialog, "File1", "blue.spr");
         const driver::InDialog naming("Form5", [](QDialog& box) {
             QTest::keyClicks(&driver::control<QLineEdit>(box, "Text1"), "Towns & more");
             driver::press(box, "Command1");

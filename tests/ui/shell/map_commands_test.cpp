@@ -61,10 +61,11 @@ class MapCommands : public support::MainFrame {
         return frame->grab().toImage().pixel(control<QWidget>(surface).mapTo(frame.get(), point));
     }
     std::string status_text() const { return base::to_bytes(control<QLabel>("Bar(1)").text()); }
-    void click_map(QPoint point, Qt::MouseButton button = Qt::LeftButton) const {
-        QTest::mouseClick(&control<QWidget>("Picture1"), button, {}, point);
+    void click_map(QPoint point, const char* surface = "Picture1") const {
+        QTest::mouseClick(&control<QWidget>(surface), Qt::LeftButton, {}, point);
         QCoreApplication::processEvents();
     }
+    QString selection_text() const { return control<QLineEdit>("selection_text").text(); }
 };
 
 TEST_F(MapCommands, MapsAreOpenedAndChosen) {
@@ -82,9 +83,13 @@ TEST_F(MapCommands, MapsAreOpenedAndChosen) {
     EXPECT_EQ(maps_shown(), "1 1");
     EXPECT_EQ(seen({50, 50}, "Picture2"), slate);
     EXPECT_EQ(map_frame().windowTitle(), "political.bmp");
+    click_map({150, 50}, "Picture2");
+    EXPECT_EQ(selection_text(), "6") << "the ID map tells, whatever is shown";
     press_key(Qt::Key_3, Qt::ControlModifier);
     EXPECT_EQ(maps_shown(), "2 2");
     EXPECT_EQ(seen({150, 50}, "Picture_id") & 0xFFFFFF, bitmaps::colour_of(6));
+    click_map({50, 50}, "Picture_id");
+    EXPECT_EQ(selection_text(), "5");
     choose("carte", "carte_id");
     EXPECT_EQ(maps_shown(), "2 2") << "the shown map stays checked";
     choose("carte", "carte_1");
@@ -125,7 +130,7 @@ TEST_F(MapCommands, AClosedMapWindowIsMadeAnew) {
         EXPECT_TRUE(map_window()->isVisible()) << key;
     }
     click_map({150, 50});
-    EXPECT_EQ(control<QLineEdit>("selection_text").text(), "6");
+    EXPECT_EQ(selection_text(), "6");
     map_frame().close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     select("5");
@@ -175,7 +180,7 @@ TEST_F(MapCommands, ModesShowAndEnterTheirPositions) {
             EXPECT_NE(seen({50, 60}), paper) << "the position is shown at once";
         }
     }
-    EXPECT_EQ(control<QLineEdit>("selection_text").text(), "5");
+    EXPECT_EQ(selection_text(), "5");
     EXPECT_EQ(control<QLabel>("ville(0)").text(), "50") << "the panel shows what was placed";
     EXPECT_EQ(seen({20, 20}), 0xFF000000) << "a dot of the selection";
 
