@@ -31,7 +31,7 @@ void NumericEntry::show(const std::string& value) {
 }
 
 bool NumericEntry::store() {
-    const auto text = checked_entry(numeric_, field_.bytes());
+    const auto text = stored_text();
     is_refused_ = !text;
     field_.show_stored(text.value_or(std::string()));
     if (!text)

@@ -6,6 +6,7 @@
 #include <QSlider>
 
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace editor {
@@ -29,6 +30,11 @@ class NumericEntry : public QObject {
 
     /// Stores the text; empties the field and returns false when it is out of range.
     bool store();
+
+    /// Returns what the text is stored as; nothing when it is out of range.
+    std::optional<std::string> stored_text() const {
+        return checked_entry(numeric_, field_.bytes());
+    }
 
   signals:
     void refused();           ///< What was entered is out of range.

@@ -119,6 +119,17 @@ void Panneau::keep_typed_text() {
     }
 }
 
+std::vector<TypedText> Panneau::typed_texts() const {
+    std::vector<TypedText> typed;
+    for (const auto& entry : entries_) {
+        if (!entry.field->isModified())
+            continue;
+        if (const auto text = entry.stored_text())
+            typed.push_back({entry.number, *text});
+    }
+    return typed;
+}
+
 bool Panneau::anything_selected() const {
     return !session_.selection.provinces().empty();
 }
@@ -182,7 +193,7 @@ Panneau::Show Panneau::bind_text(const Field& field) {
     };
     connect(&text, &EntryField::entered, this, store);
     connect(&text, &EntryField::left, this, store);
-    entries_.push_back({&text, store, store});
+    entries_.push_back({field.number, &text, store, store, [&text] { return text.bytes(); }});
     return [&text](const MergedValue& value) { text.show_bytes(value.text); };
 }
 
@@ -197,7 +208,8 @@ Panneau::Show Panneau::bind_slider(const Field& field) {
         const bool is_in_panel = isAncestorOf(QApplication::focusWidget());
         warn_after_leaving({numeric, text, is_in_panel, selected_provinces()}, 0ms);
     });
-    entries_.push_back({&text, [entry] { entry->enter(); }, [entry] { entry->store(); }});
+    entries_.push_back({field.number, &text, [entry] { entry->enter(); },
+                        [entry] { entry->store(); }, [entry] { return entry->stored_text(); }});
     return [entry](const MergedValue& value) { entry->show(value.text); };
 }
 

@@ -4,6 +4,7 @@
 #include "editor/fields.h"
 #include "editor/merged_values.h"
 #include "editor/option_group.h"
+#include "editor/typed_text.h"
 #include "shell/session.h"
 
 #include <QWidget>
@@ -11,6 +12,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -49,6 +51,10 @@ class Panneau : public QWidget {
     /// Writes it as far as it may stand, without a word.
     void keep_typed_text();
 
+    /// Returns the texts that were typed into fields which were not left since, as leaving would
+    /// store them; one that would be refused is none.
+    std::vector<TypedText> typed_texts() const;
+
     /// Returns the width that all controls need, which the panel keeps.
     QSize sizeHint() const override;
 
@@ -61,9 +67,11 @@ class Panneau : public QWidget {
 
     /// A text field and how its typed text is stored.
     struct Entry {
+        data::FieldNumber number;
         EntryField* field;
         std::function<void()> store;
         std::function<void()> keep; // the same, without a word about a number out of its range
+        std::function<std::optional<std::string>()> stored_text; // nothing when it is refused
     };
 
     QWidget* build_selection_row();

@@ -1,3 +1,4 @@
+#include "editor/panneau.h"
 #include "support/panel.h"
 
 #include <QDropEvent>
@@ -107,6 +108,36 @@ TEST_F(Panel, EnterThatIsHeldWritesOnce) {
     EXPECT_EQ(cells(1), "a|b");
     QTest::keyClick(&control<QWidget>("nom_province"), Qt::Key_Return);
     EXPECT_EQ(cells(1), "c|c");
+}
+
+TEST_F(Panel, TypedTextsAreWhatLeavingWouldStore) {
+    const auto typed = [&] { return control<editor::Panneau>("panneau").typed_texts(); };
+    const struct {
+        const char* control;
+        int field;
+        const char* typed;
+        std::optional<std::string> stored;
+    } rows[] = {
+        {"nom_province", 1, "1,5;", "1,5;"}, {"rivière2", 55, "", ""},
+        {"férocité", 24, "2,5", "2.5"},      {"férocité", 24, "9", {}},
+        {"efficacité", 25, "2.1", {}},       {"efficacité", 25, "1", "1"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << row.control << " " << row.typed);
+        click("selection_text"); // leaves the field of the row before
+        select_with(row.field, "0.7", "0.7");
+        EXPECT_TRUE(typed().empty());
+        type(row.control, QString::fromLatin1(row.typed));
+        std::vector<editor::TypedText> expected;
+        if (row.stored)
+            expected = {{{row.field}, *row.stored}};
+        EXPECT_EQ(typed(), expected);
+        EXPECT_EQ(cells(row.field), "0.7|0.7");
+        QTest::keyClick(&visible(row.control), Qt::Key_Return);
+        EXPECT_EQ(cell(6, row.field), row.stored.value_or("0.7"));
+        EXPECT_TRUE(typed().empty()) << "a refused one is none";
+        boxes.take();
+    }
 }
 
 TEST_F(Panel, TheFocusComesBackToARefusedNumber) {
