@@ -12,6 +12,7 @@ namespace data {
 
 namespace {
 
+constexpr std::size_t told_lines = 3;
 constexpr std::string_view unread_columns = ";0;0";
 
 [[noreturn]] void throw_too_few_fields(int line, int province, TableColumn column) {
@@ -52,6 +53,8 @@ ReadReport read_provinces(std::string_view bytes, ProvinceTable& table, Source s
     while (!bytes.empty()) {
         const auto line = take_line(bytes);
         ++report.lines;
+        if (report.lone_line_feeds.size() < told_lines && line.find('\n') != line.npos)
+            report.lone_line_feeds.push_back(report.lines);
         const double identifier = leading_number(line);
         if (!(identifier >= 1 && identifier <= last_province))
             continue;

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace data {
 
@@ -12,6 +13,7 @@ struct ReadReport {
     int lines = 0;     // lines of the file, the header and the fixed rows among them
     int provinces = 0; // lines that filled a row of the table
     bool has_carriage_return = false;
+    std::vector<int> lone_line_feeds = {}; // the first lines that hold one, from 1: rows are lost
 };
 
 /// What the bytes are of: the file whose values the table now has, or a copy of an earlier table,
