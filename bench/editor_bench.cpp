@@ -4,6 +4,7 @@
 #include "editor/merged_values.h"
 #include "editor/selection.h"
 #include "shell/mdi_form1.h"
+#include "shell/recovery_copies.h"
 #include "shell/session.h"
 
 #include <QApplication>
@@ -124,7 +125,8 @@ class Program {
 void apply_selection_until_the_panel_is_shown(benchmark::State& state) {
     const Program program;
     const auto session = program.session();
-    shell::MDIForm1 frame(*session, shell::start_up(*session));
+    shell::RecoveryCopies copies(*session);
+    shell::MDIForm1 frame(*session, copies, shell::start_up(*session));
     session->provinces = full_table();
     frame.show();
     QApplication::processEvents();
@@ -141,7 +143,8 @@ void start_until_the_main_frame_is_shown(benchmark::State& state) {
     const Program program;
     for ([[maybe_unused]] auto _ : state) {
         const auto session = program.session();
-        shell::MDIForm1 frame(*session, shell::start_up(*session));
+        shell::RecoveryCopies copies(*session);
+        shell::MDIForm1 frame(*session, copies, shell::start_up(*session));
         frame.show();
         QApplication::processEvents();
         benchmark::DoNotOptimize(frame.isVisible());

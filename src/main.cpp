@@ -17,6 +17,7 @@
 #include <iostream>
 #include <stdexcept>
 #include <variant>
+#include <vector>
 
 namespace {
 
@@ -88,11 +89,16 @@ int run_program(shell::Application& application, shell::Session& session,
         line.folder.value_or(base::stored_path(QApplication::applicationDirPath()));
     session.unattended = line.screenshot.has_value();
 
-    shell::MDIForm1 frame(session, shell::start_up(session));
+    shell::MDIForm1 frame(session, application.copies(), shell::start_up(session));
     application.keep_typed_text = [kept = QPointer(&frame)] {
         if (kept)
             kept->keep_typed_text();
     };
+    application.copies().set_typed_texts([kept = QPointer(&frame)] {
+        return kept ? kept->typed_texts() : std::vector<editor::TypedText>();
+    });
+    QObject::connect(&application.copy_timer(), &shell::CopyTimer::failed, &frame,
+                     &shell::MDIForm1::tell);
     const shell::Termination termination([&](int status) { application.terminate(status); },
                                          [&] { application.save_unsaved(); });
     if (line.screenshot) {

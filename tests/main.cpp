@@ -2,6 +2,8 @@
 #include "support/test_application.h"
 #include "support/time_limit.h"
 
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QWidget>
 
@@ -49,6 +51,8 @@ class BetweenTests : public testing::EmptyTestEventListener {
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir data_home; // the user's own folder is not the tests'
+    qputenv("XDG_DATA_HOME", QFile::encodeName(data_home.path()));
     testing::InitGoogleTest(&argc, argv);
     const support::TestApplication application(argc, argv);
     BetweenTests between_tests;

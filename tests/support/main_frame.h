@@ -38,6 +38,7 @@ class MainFrame : public testing::Test {
     }
     ~MainFrame() override {
         frame.reset();
+        application.copies().remove_own();
         application.treats_errors = false;
     }
 
@@ -46,7 +47,8 @@ class MainFrame : public testing::Test {
     }
 
     void start() {
-        frame = std::make_unique<shell::MDIForm1>(session, shell::start_up(session));
+        frame = std::make_unique<shell::MDIForm1>(session, application.copies(),
+                                                  shell::start_up(session));
         frame->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(frame.get()));
     }

@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -42,6 +43,9 @@ class MessageBoxes {
     /// The button that is pressed where a box has it; Enter answers the others.
     QMessageBox::StandardButton answer = QMessageBox::NoButton;
 
+    /// What is tried on a box before it is answered.
+    std::function<void(QMessageBox&)> before_answer = [](QMessageBox&) {};
+
   private:
     void answer_open_box() {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -49,6 +53,7 @@ class MessageBoxes {
             return;
         boxes_.push_back({box->objectName().toStdString(), base::to_bytes(box->text()),
                           box->standardButton(box->defaultButton())});
+        before_answer(*box);
         if (auto* button = box->button(answer))
             QTest::mouseClick(button, Qt::LeftButton);
         else

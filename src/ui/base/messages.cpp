@@ -1,8 +1,11 @@
 #include "base/messages.h"
 
 #include "base/shown_text.h"
+#include "shell/error_text.h"
 
 #include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
 
 #include <stdexcept>
@@ -11,10 +14,29 @@ namespace base {
 
 namespace {
 
+class Box : public QMessageBox {
+  public:
+    using QMessageBox::QMessageBox;
+    EscapeKey escape = EscapeKey::is_no;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (escape == EscapeKey::is_no || !event->matches(QKeySequence::Cancel))
+            QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override {
+        if (escape == EscapeKey::is_no)
+            QMessageBox::closeEvent(event);
+        else
+            event->ignore();
+    }
+};
+
 int show_box(QWidget* owner, const char* name, QMessageBox::Icon icon, const std::string& text,
-             QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset) {
-    QMessageBox box(icon, QApplication::applicationDisplayName(), message_text(text), buttons,
-                    owner);
+             QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preset,
+             EscapeKey escape = EscapeKey::is_no) {
+    Box box(icon, QApplication::applicationDisplayName(), message_text(text), buttons, owner);
+    box.escape = escape;
     box.setObjectName(QString::fromLatin1(name));
     box.setTextFormat(Qt::PlainText);
     // Text that can be marked also breaks within a long path instead of leaving the box.
@@ -40,16 +62,16 @@ void show_unstorable(const shell::Session& session, QWidget* owner) {
 }
 
 bool ask(const shell::Session& session, QWidget* owner, const std::string& text,
-         DefaultAnswer preset) {
+         DefaultAnswer preset, EscapeKey escape) {
     throw_if_unattended(session, text);
     const auto button = preset == DefaultAnswer::yes ? QMessageBox::Yes : QMessageBox::No;
     return show_box(owner, "message", QMessageBox::Question, text,
-                    QMessageBox::Yes | QMessageBox::No, button) == QMessageBox::Yes;
+                    QMessageBox::Yes | QMessageBox::No, button, escape) == QMessageBox::Yes;
 }
 
 void show_error(const shell::Session& session, QWidget* owner, const data::RunTimeError& error) {
     throw_if_unattended(session, error.what());
-    show_error_box(owner, error.what());
+    show_error_box(owner, text_of(error, session.language));
 }
 
 void show_error_box(QWidget* owner, const std::string& text) {

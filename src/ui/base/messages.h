@@ -18,9 +18,12 @@ void show_unstorable(const shell::Session& session, QWidget* owner);
 
 enum class DefaultAnswer { yes, no };
 
+/// What Escape and the close box answer to a question: No, or nothing, so that the box stays.
+enum class EscapeKey { is_no, stays };
+
 /// Returns whether the question was answered with Yes.
 bool ask(const shell::Session& session, QWidget* owner, const std::string& text,
-         DefaultAnswer preset);
+         DefaultAnswer preset, EscapeKey escape = EscapeKey::is_no);
 
 /// Shows an error that ends one operation only; the program goes on.
 void show_error(const shell::Session& session, QWidget* owner, const data::RunTimeError& error);

@@ -34,6 +34,7 @@ class Form1 : public QWidget {
     QSize sizeHint() const override;
 
     bool has_map_2() const { return map_2_.has_value(); }
+    const MapImage& id_map() const { return id_map_; }
 
     /// Makes the map the visible one; without a map 2 it cannot be chosen.
     void show_map(ShownMap which);

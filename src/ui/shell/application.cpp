@@ -1,9 +1,10 @@
 #include "shell/application.h"
 
+#include "base/files.h"
 #include "base/messages.h"
 #include "base/shown_text.h"
+#include "shell/error_text.h"
 #include "shell/icon.h"
-#include "shell/recovery.h"
 
 #include <iostream>
 #include <utility>
@@ -11,7 +12,11 @@
 namespace shell {
 
 Application::Application(int& argc, char** argv, Session& session, std::function<void(int)> end)
-    : QApplication(argc, argv), session_(session), end_(std::move(end)) {
+    : QApplication(argc, argv),
+      session_(session),
+      copies_(session),
+      copy_timer_(copies_),
+      end_(std::move(end)) {
     setApplicationName(QStringLiteral("Province Editor"));
     setWindowIcon(program_icon());
     setApplicationVersion(QStringLiteral(PROVINCE_EDITOR_VERSION));
@@ -19,7 +24,10 @@ Application::Application(int& argc, char** argv, Session& session, std::function
 
 bool Application::notify(QObject* receiver, QEvent* event) {
     try {
-        return QApplication::notify(receiver, event);
+        const bool taken = QApplication::notify(receiver, event);
+        if (!session_.unattended)
+            copy_timer_.look();
+        return taken;
     } catch (const std::exception& error) {
         end_with_error(error);
         return true;
@@ -27,9 +35,12 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 void Application::end_with_error(const std::exception& error) {
-    std::string text = error.what();
-    if (const std::string notice = recover_all(); !notice.empty())
-        text += "\n" + notice;
+    const auto* run_time_error = dynamic_cast<const data::RunTimeError*>(&error);
+    std::string text =
+        run_time_error ? text_of(*run_time_error, session_.language) : std::string(error.what());
+    const std::string kept = recover_all();
+    text += "\n\n" + session_.language.text(Text::error_program_ends) + " " +
+            (kept.empty() ? session_.language.text(Text::error_nothing_unsaved) : kept);
     const bool seen = platformName() != QLatin1String("offscreen") && !session_.unattended;
     if (!in_event_loop_ || !seen)
         std::cerr << base::message_text(text).toStdString() << std::endl;
@@ -47,6 +58,7 @@ void Application::terminate(int exit_status) {
 void Application::save_unsaved() {
     if (const std::string notice = recover_all(); !notice.empty())
         std::cerr << base::message_text(notice).toStdString() << std::endl;
+    copies_.let_go();
 }
 
 std::string Application::recover_all() noexcept {
@@ -55,7 +67,17 @@ std::string Application::recover_all() noexcept {
     } catch (const std::exception&) {
         // What the table holds is still worth keeping.
     }
-    return recover(session_);
+    if (session_.unattended)
+        return {};
+    try {
+        copies_.update();
+        if (copies_.own().empty())
+            return {};
+        return session_.language.text(Text::recovery_copy_written,
+                                      {base::shown_path(copies_.own())});
+    } catch (const std::exception& error) {
+        return session_.language.text(Text::recovery_copy_failed, {error.what()});
+    }
 }
 
 } // namespace shell

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/copy_timer.h"
+#include "shell/recovery_copies.h"
 #include "shell/session.h"
 
 #include <QApplication>
@@ -31,6 +33,9 @@ class Application : public QApplication {
 
     void event_loop_begins() { in_event_loop_ = true; }
 
+    RecoveryCopies& copies() { return copies_; }
+    CopyTimer& copy_timer() { return copy_timer_; }
+
     /// Takes into the table what was typed and not yet entered; runs before every recovery copy.
     std::function<void()> keep_typed_text = [] {};
 
@@ -39,6 +44,8 @@ class Application : public QApplication {
     std::string recover_all() noexcept;
 
     Session& session_;
+    RecoveryCopies copies_;
+    CopyTimer copy_timer_;
     std::function<void(int)> end_;
     bool in_event_loop_ = false;
 };

@@ -35,7 +35,8 @@ constexpr std::array position_items = {"ville_menu", "armées_menu", "manuf_menu
 
 } // namespace
 
-MDIForm1::MDIForm1(Session& session, Run run) : session_(session) {
+MDIForm1::MDIForm1(Session& session, RecoveryCopies& copies, Run run)
+    : session_(session), copies_(copies) {
     setObjectName(QStringLiteral("MDIForm1"));
     setWindowTitle(QApplication::applicationDisplayName());
     resize(first_size);
@@ -51,7 +52,9 @@ void MDIForm1::build_menus() {
     menuBar()->setObjectName(QStringLiteral("menu_bar"));
     for (const auto& item : menu_items()) {
         const QString name = base::from_utf8(item.name);
-        const QString caption = base::frame_caption(session_.language, item.name, item.caption);
+        const QString caption =
+            item.text ? base::caption_text(session_.language.text(*item.text))
+                      : base::frame_caption(session_.language, item.name, item.caption);
         QMenu* parent = item.parent.empty() ? nullptr : action(item.parent)->menu();
         if (item.after_separator)
             parent->addSeparator();

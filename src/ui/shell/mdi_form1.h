@@ -2,11 +2,14 @@
 
 #include "data/province_file.h"
 #include "data/run_time_error.h"
+#include "editor/typed_text.h"
 #include "gfx/sprite_kind.h"
 #include "map/form1.h"
 #include "map/mode.h"
+#include "shell/problem.h"
 #include "shell/session.h"
 #include "shell/start_up.h"
+#include "shell/watched_file.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -16,6 +19,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 class QAction;
 class QLabel;
@@ -28,7 +32,10 @@ class Panneau;
 
 namespace shell {
 
+class Form_controle;
+class Form_modifications;
 class Notice;
+class RecoveryCopies;
 
 /// The main frame: menus, the workspace of the map window, the panel and the status bar. Its
 /// closing is the program's shutdown.
@@ -37,13 +44,16 @@ class MDIForm1 : public QMainWindow {
 
   public:
     /// Builds the frame for a session that was started up, which told what run this is.
-    MDIForm1(Session& session, Run run);
+    MDIForm1(Session& session, RecoveryCopies& copies, Run run);
 
     // The commands of the menus.
     void ouvrir_cartes();
     void ouvrir_csv();
     void gfx();
     void enregister();
+    /// Saves again where this run saved since it last read a file or opened a copy.
+    void reenregistrer();
+    void recuperer();
     void quitter();
     void show_map(map::ShownMap shown);
     void enter_mode(map::Mode mode);
@@ -53,6 +63,8 @@ class MDIForm1 : public QMainWindow {
     /// Takes the language of the item, counted from 0, for the next start; one that could not be
     /// read then is refused.
     void choose_language(int item);
+    void verifier();
+    void modifications();
     void propos();
 
     // What the commands do once their dialogs are confirmed.
@@ -65,10 +77,14 @@ class MDIForm1 : public QMainWindow {
     /// Writes a text that was typed and not yet left, as far as it may stand, without a word.
     void keep_typed_text();
 
+    /// Returns the texts that are typed into fields which were not left yet.
+    std::vector<editor::TypedText> typed_texts() const;
+
     /// Shows what happened in the status bar for a while.
     void tell(const QString& notice);
 
   protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -99,12 +115,25 @@ class MDIForm1 : public QMainWindow {
     void check_map(map::ShownMap shown);
     void enable_map_items(bool enabled);
 
+    void save_to(const std::string& path);
+    /// Keeps what is unsaved before something else is read over it; false when that failed.
+    bool keep_unsaved();
+    void open_copy(const std::string& path);
+    void table_changed();
+    std::vector<Problem> problems() const;
+
     /// Returns the map window, made anew when it was closed; none without maps.
     map::Form1* map_window();
     void make_map_window();
     void fit_map_window();
 
     Session& session_;
+    RecoveryCopies& copies_;
+    std::string saved_to_;               // stored path; empty before the first save
+    WatchedFile watched_;                // the province file
+    std::vector<Problem> file_problems_; // of the file that was read, until a save replaces it
+    QPointer<Form_controle> controle_;
+    QPointer<Form_modifications> modifications_;
     std::map<std::string_view, QAction*> actions_; // by their names in the menus' table
     QStringList languages_;                        // file names without ".lng", in the menu's order
     editor::Panneau* panel_ = nullptr;

@@ -1,27 +1,21 @@
-#include "base/files.h"
 #include "base/messages.h"
 #include "base/qt_text.h"
 #include "base/shown_text.h"
 #include "base/stored_path.h"
-#include "data/province_file.h"
 #include "data/run_time_error.h"
 #include "editor/panneau.h"
 #include "gfx/form2.h"
 #include "gfx/form3.h"
-#include "gfx/form4.h"
 #include "map/identification.h"
 #include "shell/error_text.h"
 #include "shell/frm_about.h"
 #include "shell/mdi_form1.h"
-#include "shell/recovery.h"
 
 #include <QAction>
 #include <QActionGroup>
-#include <QCloseEvent>
 
 #include <algorithm>
 #include <array>
-#include <iostream>
 #include <vector>
 
 namespace shell {
@@ -69,44 +63,12 @@ void MDIForm1::ouvrir_cartes() {
         open_maps();
 }
 
-void MDIForm1::ouvrir_csv() {
-    if (!base::ask(session_, this, session_.language.message(data::Message::open_question),
-                   base::DefaultAnswer::no))
-        return;
-    session_.chooser_kind = gfx::ChooserKind::CSV;
-    gfx::Form4(session_, this).exec();
-    if (session_.cancelled_flag == 0)
-        open_province_file(session_.configuration.province_file_path);
-}
-
-data::ReadReport MDIForm1::open_province_file(const std::string& path) {
-    if (base::is_storable_text(base::path_text(path)))
-        session_.configuration.province_file_path = path;
-    const std::string bytes = base::read_file(path);
-    panel_->forget_shown();
-    try {
-        return data::read_provinces(bytes, session_.provinces);
-    } catch (const data::RunTimeError& error) {
-        throw error.within(base::shown_path(path));
-    }
-}
-
 void MDIForm1::gfx() {
     gfx::Form3 form(session_, this);
     connect(&form, &gfx::Form3::terrain_art_accepted, action("dessin_menu"),
             [this] { action("dessin_menu")->setEnabled(true); });
     form.exec();
     show_graphics();
-}
-
-void MDIForm1::enregister() {
-    session_.chooser_kind = gfx::ChooserKind::CSV2;
-    gfx::Form4(session_, this).exec();
-    if (session_.cancelled_flag != 0)
-        return;
-    base::replace_file(session_.configuration.province_save_path,
-                       data::write_provinces(session_.provinces));
-    session_.provinces.mark_saved();
 }
 
 void MDIForm1::quitter() {
@@ -233,21 +195,12 @@ void MDIForm1::apply_selection(const std::optional<data::RunTimeError>& known_er
     panel_->show_selection();
 }
 
-void MDIForm1::keep_typed_text() {
-    panel_->keep_typed_text();
+std::vector<editor::TypedText> MDIForm1::typed_texts() const {
+    return panel_->typed_texts();
 }
 
-void MDIForm1::closeEvent(QCloseEvent* event) {
-    panel_->write_typed_text();
-    if (!session_.maps.id_map_path.empty() &&
-        base::ask(session_, this, session_.language.message(data::Message::save_question),
-                  base::DefaultAnswer::yes))
-        enregister();
-    base::replace_file(base::in_folder(session_.program_folder, configuration_file),
-                       write_configuration(session_.configuration, session_.graphics.files));
-    if (const std::string notice = write_recovery_copy(session_); !notice.empty())
-        std::cerr << base::message_text(notice).toStdString() << std::endl;
-    event->accept();
+void MDIForm1::keep_typed_text() {
+    panel_->keep_typed_text();
 }
 
 } // namespace shell

@@ -42,7 +42,12 @@ constexpr std::array items = {
     MenuItem{"fichier", "ouvrir_csv", "&Ouvrir fichier province...", run<&MDIForm1::ouvrir_csv>,
              "Ctrl+O"},
     MenuItem{"fichier", "gfx", "Emplacement &gfx...", run<&MDIForm1::gfx>, "Ctrl+G"},
-    MenuItem{"fichier", "enregister", "&Enregistrer...", run<&MDIForm1::enregister>, "Ctrl+S"},
+    MenuItem{"fichier", "réenregistrer", "", run<&MDIForm1::reenregistrer>, "Ctrl+S", false, false,
+             Text::menu_reenregistrer},
+    MenuItem{"fichier", "enregister", "&Enregistrer...", run<&MDIForm1::enregister>,
+             "Ctrl+Shift+S"},
+    MenuItem{"fichier", "récupérer", "", run<&MDIForm1::recuperer>, "", false, false,
+             Text::menu_recuperer},
     MenuItem{"fichier", "quitter", "&Quitter", run<&MDIForm1::quitter>, "Ctrl+Q", false,
              after_separator},
 
@@ -50,6 +55,12 @@ constexpr std::array items = {
     MenuItem{"carte", "carte_1", "Carte &1", show_map<ShownMap::map_1>, "Ctrl+1", checkable},
     MenuItem{"carte", "carte_2", "Carte &2", show_map<ShownMap::map_2>, "Ctrl+2", checkable},
     MenuItem{"carte", "carte_id", "Carte &id", show_map<ShownMap::id_map>, "Ctrl+3", checkable},
+
+    MenuItem{"", "recherche", "", nullptr, "", false, false, Text::menu_recherche},
+    MenuItem{"recherche", "vérifier", "", run<&MDIForm1::verifier>, "Ctrl+K", false, false,
+             Text::menu_verifier},
+    MenuItem{"recherche", "modifications", "", run<&MDIForm1::modifications>, "Ctrl+D", false,
+             false, Text::menu_modifications},
 
     MenuItem{"", "mode", "&Mode"},
     MenuItem{"mode", "normal", "&Normal", enter_mode<Mode::normal>, "F2", checkable},

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "shell/texts.h"
+
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -18,6 +21,7 @@ struct MenuItem {
     std::string_view shortcut = {};
     bool checkable = false;
     bool after_separator = false;
+    std::optional<Text> text = {}; // of an item whose caption is a text of our own
 };
 
 /// All menus and items in their order; a menu stands before its items.

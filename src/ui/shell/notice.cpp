@@ -16,12 +16,18 @@ Notice::Notice(QWidget* parent) : ElidedLabel(parent) {
     time_.setObjectName(QStringLiteral("time"));
     time_.setSingleShot(true);
     time_.setInterval(shown_for);
-    connect(&time_, &QTimer::timeout, this, &Notice::clear);
+    connect(&time_, &QTimer::timeout, this, [this] { setText(kept_); });
 }
 
 void Notice::tell(const QString& text) {
     setText(text);
     time_.start();
+}
+
+void Notice::keep(const QString& text) {
+    kept_ = text;
+    if (!time_.isActive())
+        setText(kept_);
 }
 
 } // namespace shell

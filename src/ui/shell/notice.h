@@ -14,7 +14,11 @@ class Notice : public ElidedLabel {
     /// Shows the text for 15 seconds, in the place of the one before.
     void tell(const QString& text);
 
+    /// Shows the text whenever nothing else is told, until another one is kept.
+    void keep(const QString& text);
+
   private:
+    QString kept_;
     QTimer time_{this};
 };
 

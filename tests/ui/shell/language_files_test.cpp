@@ -40,8 +40,10 @@ std::set<std::string> looked_up_captions() {
         if (!name.empty())
             keys.insert("MDIForm1." + base::to_bytes(base::from_utf8(name)));
     };
-    for (const auto& item : shell::menu_items())
-        add(item.name);
+    for (const auto& item : shell::menu_items()) {
+        if (!item.text)
+            add(item.name);
+    }
     for (const auto& tab : editor::tabs) {
         add(tab.caption_key);
         for (const auto& block : tab.blocks)

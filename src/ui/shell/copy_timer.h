@@ -1,0 +1,34 @@
+#pragma once
+
+#include "shell/recovery_copies.h"
+
+#include <QObject>
+#include <QTimer>
+
+namespace shell {
+
+/// Brings the run's recovery copy up to date soon after every change.
+class CopyTimer : public QObject {
+    Q_OBJECT
+
+  public:
+    /// The copies must outlive the timer.
+    explicit CopyTimer(RecoveryCopies& copies);
+
+    /// To be called after every event, which may have changed something: that no change is missed
+    /// depends on nobody's telling of it.
+    void look();
+
+  signals:
+    /// The copy could not be written, for another reason than the last time. It is tried again.
+    void failed(const QString& reason);
+
+  private:
+    void write();
+
+    RecoveryCopies& copies_;
+    QTimer timer_;
+    QString last_reason_;
+};
+
+} // namespace shell
