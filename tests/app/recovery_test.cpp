@@ -1,6 +1,8 @@
 #include "support/program.h"
 
 #include <QDirIterator>
+#include <QElapsedTimer>
+#include <QThread>
 
 #ifdef Q_OS_UNIX
 #include <csignal>
@@ -62,6 +64,19 @@ TEST_F(Recovery, ASignalLosesNeitherEnteredNorTypedTexts) {
         EXPECT_NE(copy.find("\r\n6;typed, not left;"), std::string::npos) << signal;
         QFile::remove(folder.native("program/recovered.csv"));
     }
+}
+
+TEST_F(Recovery, NothingThatIsTwoSecondsOldDiesWithTheProgram) {
+    use(renames);
+    QElapsedTimer time;
+    for (time.start(); copies().isEmpty() && time.elapsed() < 2000;)
+        QThread::msleep(20);
+    process.kill();
+    EXPECT_TRUE(process.waitForFinished(20000));
+    ASSERT_EQ(copies(), QStringList("program/recovered.csv"));
+    const std::string copy = folder.read("program/recovered.csv");
+    EXPECT_NE(copy.find("\r\n5;entered;"), std::string::npos);
+    EXPECT_NE(copy.find("\r\n6;typed, not left;"), std::string::npos);
 }
 
 TEST_F(Recovery, WithoutChangesThereIsNoCopy) {

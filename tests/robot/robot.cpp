@@ -8,7 +8,8 @@
 /// A user inside the program: linked to the program's own main function, it types what the
 /// environment variable ROBOT says into the main frame and then says "done" on standard output.
 /// ROBOT holds pairs of lines, the object name of a field and the text; an "!" at the text's end is
-/// the Enter key.
+/// the Enter key. With ROBOT_REPEATS he does so for ever, says how often he did, and "%1" in a text
+/// is that number.
 namespace {
 
 void type(QWidget& frame, const QString& name, QString text) {
@@ -30,10 +31,16 @@ void work() {
         QTimer::singleShot(10, work);
         return;
     }
+    static int times = 0;
     const auto lines = qEnvironmentVariable("ROBOT").split('\n');
     for (qsizetype i = 0; i + 1 < lines.size(); i += 2)
-        type(*frame, lines[i], lines[i + 1]);
-    std::cout << "done" << std::endl;
+        type(*frame, lines[i], QString(lines[i + 1]).replace("%1", QString::number(times)));
+    if (!qEnvironmentVariableIsSet("ROBOT_REPEATS")) {
+        std::cout << "done" << std::endl;
+        return;
+    }
+    std::cout << times++ << std::endl;
+    QTimer::singleShot(10, work);
 }
 
 void begin() {

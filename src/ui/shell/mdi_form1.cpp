@@ -74,6 +74,7 @@ void MDIForm1::build_menus() {
         actions_.emplace(item.name, made);
         made->setData(caption); // an item whose caption changes finds it here again
         made->setShortcut(QKeySequence(base::from_utf8(item.shortcut)));
+        made->setShortcutContext(Qt::ApplicationShortcut); // in the dialogs one works beside, too
         made->setCheckable(item.checkable);
         if (parent)
             parent->addAction(made);
@@ -122,8 +123,9 @@ void MDIForm1::build_workspace() {
     row->addWidget(panel_);
     setCentralWidget(middle);
     connect(panel_, &editor::Panneau::selection_entered, this, [this] { apply_selection(); });
-    connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+L")), this), &QShortcut::activated,
-            this, &MDIForm1::focus_selection_text);
+    auto* to_selection = new QShortcut(QKeySequence(QStringLiteral("Ctrl+L")), this);
+    to_selection->setContext(Qt::ApplicationShortcut);
+    connect(to_selection, &QShortcut::activated, this, &MDIForm1::focus_selection_text);
 }
 
 void MDIForm1::build_status_bar() {
@@ -160,6 +162,7 @@ QAction* MDIForm1::action(std::string_view name) const {
 void MDIForm1::focus_selection_text() {
     if (session_.mode != map::Mode::normal)
         enter_mode(map::Mode::normal); // the other modes hide the panel
+    activateWindow(); // the keys may come from a dialog
     panel_->focus_selection_text();
 }
 

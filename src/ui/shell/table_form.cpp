@@ -81,6 +81,7 @@ TableForm::TableForm(const Kind& kind, const Session& session, QWidget* owner)
     column->addWidget(list_);
     column->addLayout(buttons_);
     resize(initial_size);
+    list_->setFocus();
 
     connect(close_button, &QPushButton::clicked, this, &QDialog::reject);
     connect(list_, &QTableView::activated, this, [this](const QModelIndex& index) {
