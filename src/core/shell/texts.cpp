@@ -1,5 +1,7 @@
 #include "shell/texts.h"
 
+#include "data/run_time_error.h"
+
 namespace shell {
 
 constexpr data::IndexedArray<Text, TextInfo, text_count> texts = {{{
@@ -9,15 +11,21 @@ constexpr data::IndexedArray<Text, TextInfo, text_count> texts = {{{
     // Run-time errors
     {Text::error_heading, "error_heading", "Run-time error %1: %2"},
     {Text::error_invalid_procedure_call, "error_invalid_procedure_call",
-     "Invalid procedure call or argument"},
-    {Text::error_overflow, "error_overflow", "Overflow"},
-    {Text::error_subscript_out_of_range, "error_subscript_out_of_range", "Subscript out of range"},
-    {Text::error_file_not_found, "error_file_not_found", "File not found"},
-    {Text::error_disk_full, "error_disk_full", "Disk full"},
-    {Text::error_input_past_end, "error_input_past_end", "Input past end of file"},
-    {Text::error_permission_denied, "error_permission_denied", "Permission denied"},
-    {Text::error_path_file_access, "error_path_file_access", "Path/File access error"},
-    {Text::error_path_not_found, "error_path_not_found", "Path not found"},
+     data::words(data::ErrorNumber::invalid_procedure_call)},
+    {Text::error_overflow, "error_overflow", data::words(data::ErrorNumber::overflow)},
+    {Text::error_subscript_out_of_range, "error_subscript_out_of_range",
+     data::words(data::ErrorNumber::subscript_out_of_range)},
+    {Text::error_file_not_found, "error_file_not_found",
+     data::words(data::ErrorNumber::file_not_found)},
+    {Text::error_disk_full, "error_disk_full", data::words(data::ErrorNumber::disk_full)},
+    {Text::error_input_past_end, "error_input_past_end",
+     data::words(data::ErrorNumber::input_past_end)},
+    {Text::error_permission_denied, "error_permission_denied",
+     data::words(data::ErrorNumber::permission_denied)},
+    {Text::error_path_file_access, "error_path_file_access",
+     data::words(data::ErrorNumber::path_file_access)},
+    {Text::error_path_not_found, "error_path_not_found",
+     data::words(data::ErrorNumber::path_not_found)},
     {Text::error_unknown, "error_unknown", "Unknown error"},
     {Text::error_program_ends, "error_program_ends", "The program ends now."},
     {Text::error_nothing_unsaved, "error_nothing_unsaved", "There were no unsaved changes."},
@@ -57,6 +65,10 @@ constexpr data::IndexedArray<Text, TextInfo, text_count> texts = {{{
     {Text::notice_one_new_copy, "notice_one_new_copy", "An earlier run left a recovery copy: %1"},
     {Text::notice_new_copies, "notice_new_copies",
      "Earlier runs left %1 recovery copies, the newest is %2"},
+    {Text::reason_no_sprite_set, "reason_no_sprite_set",
+     "The item that the graphics menu has checked holds no sprite set"},
+    {Text::reason_no_terrain_art, "reason_no_terrain_art",
+     "No folder with the complete terrain art was chosen"},
     {Text::notice_unreadable, "notice_unreadable", "%1 cannot be read: %2"},
     {Text::question_save_over_change, "question_save_over_change",
      "Another program has changed %1 since it was read or saved here. Save over it?"},

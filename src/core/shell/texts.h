@@ -56,6 +56,8 @@ enum class Text {
     notice_backup_failed,
     notice_one_new_copy,
     notice_new_copies,
+    reason_no_sprite_set,
+    reason_no_terrain_art,
     notice_unreadable,
     question_save_over_change,
 

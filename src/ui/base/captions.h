@@ -29,7 +29,7 @@ inline QString dialog_caption(const shell::LanguageTexts& language, std::string_
 /// Returns one of the program's own texts, with %1 replaced by the value.
 inline QString own_text(const shell::LanguageTexts& language, shell::Text text,
                         const QString& value = {}) {
-    return to_qstring(language.text(text, {to_bytes(value)}));
+    return caption_text(language.text(text, {to_bytes(value)}));
 }
 
 /// Returns what a caption names: without the mark of its shortcut and the dots that announce a

@@ -18,12 +18,16 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace gfx {
 
 namespace {
 
 constexpr QSize initial_size(640, 560);
+constexpr QSize room_for_the_frame(16, 48); // that the desktop draws around the dialog
 
 /// A kind's row of the dialog, and its heading where the language file has none.
 struct Row {
@@ -84,7 +88,7 @@ void Form3::lay_out() {
     grid->addLayout(buttons, line, 0, 1, 3);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(2, 1);
-    resize(initial_size);
+    resize(initial_size.boundedTo(screen()->availableSize() - room_for_the_frame));
 }
 
 void Form3::lay_out_kinds(QGridLayout& grid) {
@@ -199,7 +203,16 @@ void Form3::take_set_out(SpriteKind kind) {
                                  "sprite sets of the kind " + std::string(info(kind).word) +
                                      ": no set is selected, one to take out was expected");
     delete selected.front();
+    auto& previewed = graphics.previewed_row[kind];
+    const auto& rows = graphics.sprites.of(kind).rows;
+    const std::string previewed_set = rows.at(static_cast<std::size_t>(previewed)).set_name;
     graphics.sprites.take_rows_out(kind, graphics.current_set_name);
+    const auto still_there = std::find_if(rows.begin(), rows.end(), [&](const Sprite& sprite) {
+        return sprite.set_name == previewed_set;
+    });
+    previewed = still_there == rows.end() || previewed_set == graphics.current_set_name
+                    ? 0
+                    : static_cast<int>(still_there - rows.begin());
 }
 
 void Form3::remove_gfx_fichier(const std::string& set_name) {

@@ -1,12 +1,12 @@
 #include "gfx/form4.h"
 
 #include "base/captions.h"
+#include "base/elided_label.h"
 #include "base/messages.h"
 #include "base/qt_text.h"
 #include "base/stored_path.h"
 #include "data/run_time_error.h"
 #include "data/text.h"
-#include "gfx/elided_label.h"
 #include "gfx/file_list.h"
 #include "gfx/folder_list.h"
 #include "gfx/location.h"
@@ -61,7 +61,7 @@ Form4::Form4(shell::Session& session, QWidget* owner)
     : QDialog(owner),
       session_(session),
       wanted_(new QLabel(this)),
-      shown_(new ElidedLabel(this)),
+      shown_(new base::ElidedLabel(this, Qt::ElideMiddle)),
       drives_(new QComboBox(this)),
       folders_(new FolderList(this)),
       files_(new FileList(this)),
@@ -153,10 +153,10 @@ void Form4::apply_captions() {
         const auto caption =
             session_.language.caption("Form4." + base::to_bytes(button->objectName()));
         if (caption)
-            button->setText(base::to_qstring(*caption));
+            button->setText(base::caption_text(*caption));
     }
     const auto wanted = session_.language.caption(location().command);
-    wanted_->setText(base::without_marks(wanted ? base::to_qstring(*wanted)
+    wanted_->setText(base::without_marks(wanted ? base::caption_text(*wanted)
                                                 : base::from_utf8(location().wanted)));
 }
 
@@ -204,7 +204,7 @@ void Form4::show_files() {
     const QString& folder = folders_->native_folder();
     const QString pattern = base::from_utf8(location().pattern);
     files_->show_files(folder, pattern);
-    shown_->show_text(QDir::toNativeSeparators(QDir(folder).filePath(pattern)));
+    shown_->setText(QDir::toNativeSeparators(QDir(folder).filePath(pattern)));
 }
 
 void Form4::take_selected_name() {
@@ -273,7 +273,7 @@ bool Form4::take_name_to_save() {
     const bool is_full = base::is_full_path(name);
     if (!is_full && (!folders_->is_still_there() || !can_take_open_folder()))
         return false;
-    if (is_full ? !base::is_storable_path(name) : !base::is_storable_text(name)) {
+    if (is_full ? !base::is_storable_path(name) : !base::is_storable(name)) {
         base::show_unstorable(session_, this);
         return false;
     }

@@ -14,9 +14,12 @@ namespace shell {
 struct Session;
 }
 
+namespace base {
+class ElidedLabel;
+}
+
 namespace gfx {
 
-class ElidedLabel;
 class FileList;
 class FolderList;
 struct Location;
@@ -62,7 +65,7 @@ class Form4 : public QDialog {
 
     shell::Session& session_;
     QLabel* wanted_;
-    ElidedLabel* shown_;
+    base::ElidedLabel* shown_;
     QComboBox* drives_;
     FolderList* folders_;
     FileList* files_;

@@ -1,5 +1,6 @@
 #include "map/overlay_preview.h"
 
+#include "base/captions.h"
 #include "base/stored_path.h"
 #include "data/columns.h"
 #include "data/numbers.h"
@@ -23,18 +24,6 @@ constexpr int outline_width = 3;
 constexpr int label_height = 14;
 constexpr int label_gap = 4; // between a port and the id of its sea
 constexpr int largest_shown_id = 32767;
-
-/// Why the marker stands for a picture.
-struct Reasons {
-    QString no_sprite_set =
-        QStringLiteral("The item that the graphics menu has checked holds no sprite set");
-    QString no_terrain_art = QStringLiteral("No folder with the complete terrain art was chosen");
-};
-
-const Reasons& reasons() {
-    static const Reasons texts;
-    return texts;
-}
 
 constexpr QColor pointed_colour(255, 255, 0);
 constexpr QColor label_colour(0, 0, 96);
@@ -187,7 +176,7 @@ OverlayPreview::Graphic OverlayPreview::sprite_graphic(gfx::SpriteKind kind) con
     const auto& rows = session_.graphics.sprites.of(kind).rows;
     const auto row = static_cast<std::size_t>(session_.graphics.previewed_row[kind]);
     if (row >= rows.size() || rows[row].bitmap_path.empty())
-        return marker(reasons().no_sprite_set);
+        return marker(base::own_text(session_.language, shell::Text::reason_no_sprite_set));
     const auto& sprite = rows[row];
     const Bitmap& bitmap = bitmaps_.first_frame(sprite.bitmap_path, sprite.frames);
     if (bitmap.image.isNull())
@@ -199,7 +188,7 @@ OverlayPreview::Graphic OverlayPreview::drawing_graphic(const StoredPosition& po
     if (!session_.graphics.shows_drawings)
         return marker();
     if (!shows_drawings())
-        return marker(reasons().no_terrain_art);
+        return marker(base::own_text(session_.language, shell::Text::reason_no_terrain_art));
     const auto cell = [&](data::FileColumn column) -> const std::string& {
         return session_.provinces.cell(position.province, data::table_column(column));
     };

@@ -1,6 +1,6 @@
 #include "shell/frm_about.h"
 
-#include "base/qt_text.h"
+#include "base/shown_text.h"
 #include "shell/session.h"
 
 #include <QApplication>
@@ -30,7 +30,7 @@ frmAbout::frmAbout(const Session& session, QWidget* owner) : QDialog(owner) {
     setObjectName(QStringLiteral("frmAbout"));
     const QString title = QApplication::applicationDisplayName();
     const QString about_word =
-        base::to_qstring(session.language.exact_caption("about").value_or(""));
+        base::caption_text(session.language.exact_caption("about").value_or(""));
     setWindowTitle(about_word + ' ' + title);
 
     auto* column = new QVBoxLayout(this);

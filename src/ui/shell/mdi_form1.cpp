@@ -1,11 +1,11 @@
 #include "shell/mdi_form1.h"
 
 #include "base/captions.h"
+#include "base/elided_label.h"
 #include "base/qt_text.h"
 #include "base/shown_text.h"
 #include "base/stored_path.h"
 #include "editor/panneau.h"
-#include "shell/elided_label.h"
 #include "shell/menus.h"
 #include "shell/notice.h"
 
@@ -130,7 +130,7 @@ void MDIForm1::build_workspace() {
 
 void MDIForm1::build_status_bar() {
     statusBar()->setObjectName(QStringLiteral("Bar"));
-    mode_text_ = new ElidedLabel(statusBar());
+    mode_text_ = new base::ElidedLabel(statusBar());
     mode_text_->setObjectName(QStringLiteral("Bar(1)"));
     notice_ = new Notice(statusBar());
     pointer_text_ = new QLabel(statusBar());
@@ -162,7 +162,7 @@ QAction* MDIForm1::action(std::string_view name) const {
 void MDIForm1::focus_selection_text() {
     if (session_.mode != map::Mode::normal)
         enter_mode(map::Mode::normal); // the other modes hide the panel
-    activateWindow(); // the keys may come from a dialog
+    activateWindow();                  // the keys may come from a dialog
     panel_->focus_selection_text();
 }
 

@@ -7,12 +7,14 @@ namespace shell {
 namespace {
 
 constexpr std::chrono::seconds shown_for(15);
+constexpr int distance = 12; // pixels, to the texts beside it
 
 } // namespace
 
-Notice::Notice(QWidget* parent) : ElidedLabel(parent) {
+Notice::Notice(QWidget* parent) : base::ElidedLabel(parent) {
     setObjectName(QStringLiteral("notice"));
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    setContentsMargins(distance, 0, distance, 0);
     time_.setObjectName(QStringLiteral("time"));
     time_.setSingleShot(true);
     time_.setInterval(shown_for);

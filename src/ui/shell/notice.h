@@ -1,13 +1,13 @@
 #pragma once
 
-#include "shell/elided_label.h"
+#include "base/elided_label.h"
 
 #include <QTimer>
 
 namespace shell {
 
 /// The part of the status bar that tells of what just happened, for a while.
-class Notice : public ElidedLabel {
+class Notice : public base::ElidedLabel {
   public:
     explicit Notice(QWidget* parent);
 

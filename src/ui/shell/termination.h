@@ -12,10 +12,9 @@ namespace shell {
 class Termination : public QObject {
   public:
     /// `requested` is called on the user-interface thread when the system asks the program to end
-    /// (SIGTERM, SIGINT, SIGHUP, SIGQUIT; not one that was ignored when
-    /// the program was started), with the exit status that tells of the signal. `dropped` is
-    /// called when a library ends the process under the program, as happens when the display is
-    /// gone.
+    /// (SIGTERM, SIGINT, SIGHUP, SIGQUIT; not one that was ignored when the program was started),
+    /// with the exit status that tells of the signal. `dropped` is called when a library ends the
+    /// process under the program, as happens when the display is gone.
     Termination(std::function<void(int)> requested, std::function<void()> dropped);
     ~Termination() override;
 

@@ -1,13 +1,13 @@
-#include "shell/elided_label.h"
+#include "base/elided_label.h"
 
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QToolTip>
 
-namespace shell {
+namespace base {
 
-ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
+ElidedLabel::ElidedLabel(QWidget* parent, Qt::TextElideMode dots) : QLabel(parent), dots_(dots) {
     setTextFormat(Qt::PlainText);
 }
 
@@ -16,7 +16,7 @@ QSize ElidedLabel::minimumSizeHint() const {
 }
 
 QString ElidedLabel::fitting_text() const {
-    return fontMetrics().elidedText(text().simplified(), Qt::ElideRight, contentsRect().width());
+    return fontMetrics().elidedText(text().simplified(), dots_, contentsRect().width());
 }
 
 bool ElidedLabel::event(QEvent* event) {
@@ -32,4 +32,4 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
                           isEnabled(), fitting_text(), foregroundRole());
 }
 
-} // namespace shell
+} // namespace base
