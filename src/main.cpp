@@ -115,6 +115,7 @@ std::optional<int> work_without_window(int& argc, char** argv) {
     if (!shell::may_need_no_window({argv, static_cast<std::size_t>(argc)}))
         return {};
     const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QString::fromLatin1(shell::application_name));
     const auto asked = shell::read_command_line(QCoreApplication::arguments());
     if (const auto* text = std::get_if<shell::PrintAndEnd>(&asked))
         return print_and_end(*text);

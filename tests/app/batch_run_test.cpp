@@ -38,7 +38,14 @@ class BatchRun : public support::Program {
             EXPECT_EQ(output.empty(), row.output.empty()) << output;
             EXPECT_NE(errors.find(row.error), std::string::npos) << errors;
             EXPECT_EQ(folder.read("saved.csv"), row.saved);
-            EXPECT_EQ(folder.names(), names) << "nothing is written beside";
+            const bool is_saved = row.saved != "before";
+            QStringList written = folder.names();
+            EXPECT_EQ(written.removeAll("backups"), is_saved ? 1 : 0);
+            EXPECT_EQ(written, names) << "nothing else is written";
+            QDir backups(folder.native("backups"));
+            for (const auto& name : backups.entryList(QDir::Files))
+                EXPECT_EQ(folder.read("backups/" + name), "before");
+            backups.removeRecursively();
         }
     }
     /// Writes files that reading does not take whole, and a map.
@@ -157,6 +164,23 @@ TEST_F(BatchRun, AsksNoWindowSystemAndReadsOnlyWhatItNeeds) {
         EXPECT_EQ(output.empty(), *problems == '\0') << output;
     }
 }
+
+#ifdef Q_OS_LINUX
+TEST_F(BatchRun, BackupsGoWhereThoseOfTheWindowGo) {
+    folder.make_folder("data");
+    auto environment = process.processEnvironment();
+    for (const char* data : {"data", "good.csv"}) {
+        folder.write("saved.csv", "before");
+        environment.insert("XDG_DATA_HOME", folder.native(QString::fromLatin1(data)));
+        process.setProcessEnvironment(environment);
+        EXPECT_EQ(run(QStringList{"--folder", "good.csv"} + in + save), 0) << errors;
+        EXPECT_EQ(folder.read("saved.csv"), good);
+    }
+    const QDir backups(folder.native("data/Province Editor/backups"));
+    EXPECT_EQ(backups.entryList(QDir::Files).size(), 1);
+    EXPECT_NE(errors.find("no backup"), std::string::npos) << errors;
+}
+#endif
 
 TEST_F(BatchRun, NamesOutsideTheCodePage) {
     folder.write("мир/Ж.csv", good);

@@ -6,8 +6,8 @@
 #include "base/stored_path.h"
 #include "data/province_file.h"
 #include "data/run_time_error.h"
-#include "map/identification.h"
-#include "map/map_image.h"
+#include "map/province_places.h"
+#include "shell/backups.h"
 #include "shell/file_check.h"
 #include "shell/place_check.h"
 #include "shell/read_report.h"
@@ -36,7 +36,6 @@ constexpr const char* rows_lost =
     ": rows behind a line feed alone are not read, the file has more provinces than that; --check "
     "tells where";
 constexpr const char* output_failed = "The output could not be written";
-constexpr const char* backup_failed = "No backup of the old file was made: ";
 
 void tell(const std::string& text) {
     std::cerr << base::message_text(text).toStdString() << std::endl;
@@ -47,15 +46,14 @@ void print(const QString& line) {
 }
 
 /// Returns whether reading would find further provinces if line feeds alone ended lines, too.
-bool loses_provinces(std::string bytes, int provinces_read) {
-    const auto is_alone = [](char before, char byte) { return before != '\r' && byte == '\n'; };
-    if (std::adjacent_find(bytes.begin(), bytes.end(), is_alone) == bytes.end())
+bool loses_provinces(std::string bytes, const data::ReadReport& report) {
+    if (report.lone_line_feeds.empty())
         return false;
     std::replace(bytes.begin(), bytes.end(), '\n', '\r');
     data::ProvinceTable table;
     const auto read =
         data::read_provinces(bytes, table, data::Source::file, data::BadLine::is_passed_over);
-    return read.provinces > provinces_read;
+    return read.provinces > report.provinces;
 }
 
 /// Reads the file's bytes into the table. Throws for a bad line that ends the reading; then what
@@ -73,31 +71,21 @@ void read(const std::string& path, const std::string& bytes, data::ProvinceTable
         return;
     if (report.provinces == 0)
         throw std::runtime_error(base::shown_path(path) + no_province);
-    if (loses_provinces(bytes, report.provinces))
+    if (loses_provinces(bytes, report))
         throw std::runtime_error(base::shown_path(path) + rows_lost);
 }
 
-/// Keeps the bytes that the file has before a save replaces them.
-void back_up(const Session& /*session*/, std::string_view /*path*/) {}
-
 void save(Session& session, const std::string& path) {
+    std::string notice;
     try {
         back_up(session, path);
     } catch (const data::RunTimeError& error) {
-        tell(backup_failed + error.place());
+        notice = session.language.text(Text::notice_backup_failed, {error.what()});
     }
     base::replace_file(path, data::write_provinces(session.provinces));
     session.provinces.mark_saved();
-}
-
-map::ProvinceIndex read_index(map::MapReader& reader, QSize size) {
-    map::ProvinceIndex index;
-    std::vector<map::Pixel> row(static_cast<std::size_t>(size.width()));
-    for (int y = 0; y < size.height(); ++y) {
-        reader.read_row(y, 0, 1, row);
-        index.add_row(y, row);
-    }
-    return index;
+    if (!notice.empty())
+        tell(notice);
 }
 
 std::vector<Problem> check_maps(const Session& session, const map::Maps& maps,
@@ -107,17 +95,15 @@ std::vector<Problem> check_maps(const Session& session, const map::Maps& maps,
             base::read_file(path, 1); // only the ID map is looked at, but a wrong name is an error
     }
     const map::MapImage image(maps.id_map_path);
-    const QSize size = image.size();
-    map::MapReader reader(image);
-    const auto index = read_index(reader, size);
-    const auto province_at = [&](int x, int y) {
-        return map::province_of(reader.colour_at({x, y}).value_or(0));
-    };
+    const map::ProvincePlaces places(image);
+    const QSize size = places.size();
     auto problems = check_places(session.provinces, session.language,
-                                 {size.width(), size.height(), maps, index, province_at}, lines);
-    if (!reader.problem().isEmpty())
+                                 {size.width(), size.height(), maps, places.index(),
+                                  [&](int x, int y) { return places.province_at(x, y); }},
+                                 lines);
+    if (!places.problem().isEmpty())
         throw data::RunTimeError(data::ErrorNumber::path_file_access,
-                                 base::path_bytes(reader.problem()));
+                                 base::path_bytes(places.problem()));
     return problems;
 }
 
@@ -151,7 +137,7 @@ int obey(const CommandLine& line, Session& session) {
     if (line.check)
         start_up(session, SpriteSets::pass_over); // the value lists are the language file's
     const std::string bytes = base::read_file(*line.csv);
-    // What the check finds may stay, but a save would make it of every line that was not taken.
+    // The check tells of lines that cannot be taken; a save would lose them.
     const bool may_lose_lines = line.check && !line.save;
     read(*line.csv, bytes, session.provinces,
          may_lose_lines ? data::BadLine::is_passed_over : data::BadLine::ends_reading);

@@ -171,7 +171,7 @@ void MDIForm1::select(const std::string& text) {
 void MDIForm1::assign(const std::vector<Assignment>& assignments) {
     for (const auto& assignment : assignments)
         shell::assign(session_.provinces, session_.selection, assignment);
-    panel_->show_selection();
+    table_changed();
 }
 
 void MDIForm1::select_clicked(int identifier, bool add, const std::string& place) {
