@@ -1,10 +1,9 @@
-#include "base/files.h"
-#include "base/shown_text.h"
 #include "base/stored_path.h"
-#include "data/province_file.h"
 #include "shell/application.h"
+#include "shell/batch_run.h"
 #include "shell/command_line.h"
 #include "shell/mdi_form1.h"
+#include "shell/read_report.h"
 #include "shell/start_up.h"
 #include "shell/termination.h"
 
@@ -15,7 +14,10 @@
 #include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <optional>
+#include <span>
 #include <stdexcept>
+#include <string>
 #include <variant>
 #include <vector>
 
@@ -41,30 +43,17 @@ bool has_display() {
 #endif
 }
 
-/// Tells on standard error how much of the province file was understood, and why nothing was.
-void tell_what_was_read(const std::string& path, const data::ReadReport& read) {
-    std::cerr << base::message_text(base::shown_path(path)).toStdString()
-              << ": provinces read: " << read.provinces;
-    if (read.provinces == 0 && read.lines == 0)
-        std::cerr << ": the file is empty";
-    else if (read.provinces == 0 && !read.has_carriage_return)
-        std::cerr << ": no line of it ends with a carriage return (lines must end with carriage "
-                     "return and line feed)";
-    else if (read.provinces == 0)
-        std::cerr << ": none of its " << read.lines << " lines begins with an identifier from 1 to "
-                  << data::last_province;
-    std::cerr << std::endl;
-}
-
 void obey(const shell::CommandLine& line, shell::Session& session, shell::MDIForm1& frame) {
     if (line.csv)
-        tell_what_was_read(*line.csv, frame.open_province_file(*line.csv));
+        shell::tell_what_was_read(*line.csv, frame.open_province_file(*line.csv));
     if (line.maps) {
         session.maps = *line.maps;
         frame.open_maps();
     }
     if (line.select)
         frame.select(*line.select);
+    if (!line.assignments.empty())
+        frame.assign(line.assignments);
 }
 
 void save_picture(QWidget& frame, const QString& file) {
@@ -83,10 +72,13 @@ void show_window(QWidget& frame) {
         frame.showMaximized();
 }
 
+std::string program_folder(const shell::CommandLine& line) {
+    return line.folder.value_or(base::stored_path(QCoreApplication::applicationDirPath()));
+}
+
 int run_program(shell::Application& application, shell::Session& session,
                 const shell::CommandLine& line) {
-    session.program_folder =
-        line.folder.value_or(base::stored_path(QApplication::applicationDirPath()));
+    session.program_folder = program_folder(line);
     session.unattended = line.screenshot.has_value();
 
     shell::MDIForm1 frame(session, application.copies(), shell::start_up(session));
@@ -112,8 +104,33 @@ int run_program(shell::Application& application, shell::Session& session,
     return QApplication::exec();
 }
 
+int print_and_end(const shell::PrintAndEnd& text) {
+    (text.is_error ? std::cerr : std::cout) << text.text.toStdString();
+    return text.is_error ? wrong_use : EXIT_SUCCESS;
+}
+
+/// Does what the command line asks for without a window, and returns the exit status; nothing when
+/// it asks for a window.
+std::optional<int> work_without_window(int& argc, char** argv) {
+    if (!shell::may_need_no_window({argv, static_cast<std::size_t>(argc)}))
+        return {};
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QString::fromLatin1(shell::application_name));
+    const auto asked = shell::read_command_line(QCoreApplication::arguments());
+    if (const auto* text = std::get_if<shell::PrintAndEnd>(&asked))
+        return print_and_end(*text);
+    const auto& line = std::get<shell::CommandLine>(asked);
+    if (line.needs_window())
+        return {};
+    shell::Session session;
+    session.program_folder = program_folder(line);
+    return shell::batch_run(line, session);
+}
+
 int start_program(int& argc, char** argv) {
     shell::ignore_closed_pipes();
+    if (const auto status = work_without_window(argc, argv))
+        return *status;
     const bool is_seen = has_display();
     if (!is_seen)
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -121,10 +138,8 @@ int start_program(int& argc, char** argv) {
     shell::Session session;
     shell::Application application(argc, argv, session, end_program);
     const auto asked = shell::read_command_line(QApplication::arguments());
-    if (const auto* text = std::get_if<shell::PrintAndEnd>(&asked)) {
-        (text->is_error ? std::cerr : std::cout) << text->text.toStdString();
-        return text->is_error ? wrong_use : EXIT_SUCCESS;
-    }
+    if (const auto* text = std::get_if<shell::PrintAndEnd>(&asked))
+        return print_and_end(*text);
     const auto& line = std::get<shell::CommandLine>(asked);
     if (!is_seen && !line.screenshot) {
         std::cerr << "There is no display to open a window on. --screenshot FILE paints the window "

@@ -58,4 +58,10 @@ Assignment read_assignment(std::string_view text) {
     return {columns.front(), std::string(value)};
 }
 
+void assign(data::ProvinceTable& table, const editor::Selection& selection,
+            const Assignment& assignment) {
+    for (const int province : selection.provinces())
+        table.write(province, data::table_column(assignment.column), assignment.value);
+}
+
 } // namespace shell

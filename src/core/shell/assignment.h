@@ -1,6 +1,7 @@
 #pragma once
 
-#include "data/columns.h"
+#include "data/province_table.h"
+#include "editor/selection.h"
 
 #include <string>
 #include <string_view>
@@ -17,5 +18,9 @@ struct Assignment {
 /// around it aside. Throws std::invalid_argument with what is wrong: an unknown column, a header
 /// that several columns have, a value that would break its line.
 Assignment read_assignment(std::string_view text);
+
+/// Writes the value into that one cell of every selected province.
+void assign(data::ProvinceTable& table, const editor::Selection& selection,
+            const Assignment& assignment);
 
 } // namespace shell

@@ -17,7 +17,7 @@ Application::Application(int& argc, char** argv, Session& session, std::function
       copies_(session),
       copy_timer_(copies_),
       end_(std::move(end)) {
-    setApplicationName(QStringLiteral("Province Editor"));
+    setApplicationName(QString::fromLatin1(application_name));
     setWindowIcon(program_icon());
     setApplicationVersion(QStringLiteral(PROVINCE_EDITOR_VERSION));
 }

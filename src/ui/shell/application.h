@@ -12,6 +12,9 @@
 
 namespace shell {
 
+/// The title of the windows; folders of the user's own are named so, too.
+inline constexpr const char* application_name = "Province Editor";
+
 /// The Qt application, and the last stop of every error: it saves what is unsaved, says what
 /// happened and ends the program.
 class Application : public QApplication {

@@ -4,10 +4,14 @@
 #include "base/stored_path.h"
 #include "data/numbers.h"
 #include "data/run_time_error.h"
+#include "editor/selection.h"
 
 #include <QCommandLineParser>
 
+#include <algorithm>
 #include <array>
+#include <stdexcept>
+#include <string_view>
 
 namespace shell {
 
@@ -27,10 +31,19 @@ constexpr Option id_map{"id-map", "FILE", "bitmap whose colours are province ide
 constexpr Option offset{"offset", "X,Y", "where the maps lie in the game's coordinates, in pixels"};
 constexpr Option select_option{"select", "TEXT", "provinces to select, such as 12;15;20-25"};
 constexpr Option screenshot{"screenshot", "FILE", "paint the main frame into a PNG file and end"};
+constexpr Option set{"set", "COLUMN=VALUE",
+                     "write a value into a column (2 to 56, or its header) of the selected "
+                     "provinces; may be repeated"};
+constexpr Option save{"save", "FILE", "save the provinces of --csv, without a window"};
+constexpr Option check{"check", nullptr, "print what is wrong with --csv, without a window"};
+constexpr Option diff{"diff", "FILE",
+                      "print in what --csv differs from FILE, the earlier one, without a window"};
 constexpr Option help{"help", nullptr, "show this text and end"};
 constexpr Option version{"version", nullptr, "show the version and end"};
-constexpr std::array options = {&folder, &csv,           &map_1,      &map_2, &id_map,
-                                &offset, &select_option, &screenshot, &help,  &version};
+constexpr std::array options = {&folder, &csv,           &map_1, &map_2,  &id_map,
+                                &offset, &select_option, &set,   &save,   &check,
+                                &diff,   &screenshot,    &help,  &version};
+constexpr std::array without_window = {&save, &check, &diff};
 
 class Arguments {
   public:
@@ -44,6 +57,9 @@ class Arguments {
     bool has(const Option& option) const { return parser_.isSet(QString::fromLatin1(option.name)); }
     QString value(const Option& option) const {
         return parser_.value(QString::fromLatin1(option.name));
+    }
+    QStringList values(const Option& option) const {
+        return parser_.values(QString::fromLatin1(option.name));
     }
     std::optional<std::string> path(const Option& option) const {
         return has(option) ? std::optional(base::stored_path(value(option))) : std::nullopt;
@@ -72,7 +88,61 @@ void read_offset(const QString& text, map::Maps& maps) {
         data::to_int16(data::leading_number(base::to_bytes(text.mid(comma + 1))), "--offset");
 }
 
+/// Reads the values of --set. Throws std::invalid_argument with what is wrong.
+std::vector<Assignment> read_assignments(const QStringList& values) {
+    std::vector<Assignment> assignments;
+    for (const auto& value : values) {
+        const std::string bytes = base::to_bytes(value);
+        if (base::to_qstring(bytes) != value.normalized(QString::NormalizationForm_C))
+            throw std::invalid_argument("\"" + bytes + "\" has letters outside the code page");
+        assignments.push_back(read_assignment(bytes));
+    }
+    return assignments;
+}
+
+/// Throws std::invalid_argument or a run-time error unless the text names provinces.
+void check_selection(const std::string& text) {
+    if (!editor::is_well_formed(text))
+        throw std::invalid_argument("\"" + text +
+                                    "\" is no selection, identifiers and ranges such as "
+                                    "12;15;20-25 were expected");
+    editor::Selection().apply(text);
+}
+
+/// Reads --set, and what else is done with nobody there to answer. Returns what is wrong with it,
+/// empty if nothing is.
+QString read_unattended(const Arguments& given, CommandLine& line) {
+    line.save = given.path(save);
+    line.check = given.has(check);
+    line.diff = given.path(diff);
+    if (given.has(set) && !given.has(select_option))
+        return QStringLiteral("--set needs --select.");
+    if (!line.needs_window() && !given.has(csv))
+        return QStringLiteral("--save, --check and --diff need --csv.");
+    if (!line.needs_window() && given.has(screenshot))
+        return QStringLiteral(
+            "--screenshot paints a window, --save, --check and --diff have none.");
+    try {
+        line.assignments = read_assignments(given.values(set));
+        if (line.select && (given.has(set) || !line.needs_window()))
+            check_selection(*line.select);
+    } catch (const data::RunTimeError& error) {
+        return base::to_qstring(error.place());
+    } catch (const std::invalid_argument& error) {
+        return base::to_qstring(error.what());
+    }
+    return {};
+}
+
 } // namespace
+
+bool may_need_no_window(std::span<char* const> arguments) {
+    return std::any_of(arguments.begin(), arguments.end(), [](const std::string_view argument) {
+        return std::any_of(without_window.begin(), without_window.end(), [&](const Option* option) {
+            return argument.starts_with("--" + std::string(option->name));
+        });
+    });
+}
 
 std::variant<CommandLine, PrintAndEnd> read_command_line(const QStringList& arguments) {
     Arguments given;
@@ -86,10 +156,13 @@ std::variant<CommandLine, PrintAndEnd> read_command_line(const QStringList& argu
     CommandLine line;
     line.folder = given.path(folder);
     line.csv = given.path(csv);
+    line.csv_as_given = given.value(csv);
     if (given.has(select_option))
         line.select = base::to_bytes(given.value(select_option));
     if (given.has(screenshot))
         line.screenshot = given.value(screenshot);
+    if (const QString wrong = read_unattended(given, line); !wrong.isEmpty())
+        return given.wrong_use(wrong);
 
     if (given.has(map_1) != given.has(id_map) || (given.has(map_2) && !given.has(map_1)))
         return given.wrong_use(QStringLiteral("--map1 and --id-map are needed together."));

@@ -6,6 +6,7 @@
 #include "gfx/sprite_kind.h"
 #include "map/form1.h"
 #include "map/mode.h"
+#include "shell/assignment.h"
 #include "shell/problem.h"
 #include "shell/session.h"
 #include "shell/start_up.h"
@@ -73,6 +74,8 @@ class MDIForm1 : public QMainWindow {
     void open_maps();
     /// Selects what the text names, as if it had been typed and entered.
     void select(const std::string& text);
+    /// Writes the values into the selected provinces.
+    void assign(const std::vector<Assignment>& assignments);
 
     /// Writes a text that was typed and not yet left, as far as it may stand, without a word.
     void keep_typed_text();

@@ -168,6 +168,12 @@ void MDIForm1::select(const std::string& text) {
     apply_selection();
 }
 
+void MDIForm1::assign(const std::vector<Assignment>& assignments) {
+    for (const auto& assignment : assignments)
+        shell::assign(session_.provinces, session_.selection, assignment);
+    table_changed();
+}
+
 void MDIForm1::select_clicked(int identifier, bool add, const std::string& place) {
     const std::string present = add ? panel_->selection_text() : std::string();
     panel_->set_selection_text(editor::with_province(present, identifier));

@@ -12,11 +12,12 @@ namespace shell {
 
 namespace {
 
-void read_configuration_file(const std::string& path, Session& session) {
+void read_configuration_file(const std::string& path, Session& session, SpriteSets sprite_sets) {
     const std::string bytes = base::read_file(path);
     try {
-        read_configuration(bytes, session.configuration, [&session](const gfx::GraphicsFile& file) {
-            gfx::load_gfx_fichier(session, file.kind, file.path, file.set_name);
+        read_configuration(bytes, session.configuration, [&](const gfx::GraphicsFile& file) {
+            if (sprite_sets == SpriteSets::load)
+                gfx::load_gfx_fichier(session, file.kind, file.path, file.set_name);
         });
     } catch (const data::RunTimeError& error) {
         throw error.within(base::shown_path(path));
@@ -25,11 +26,11 @@ void read_configuration_file(const std::string& path, Session& session) {
 
 } // namespace
 
-Run start_up(Session& session) {
+Run start_up(Session& session, SpriteSets sprite_sets) {
     const std::string path = base::in_folder(session.program_folder, configuration_file);
     const Run run = QFileInfo(base::native_path(path)).isFile() ? Run::later : Run::first;
     if (run == Run::later)
-        read_configuration_file(path, session);
+        read_configuration_file(path, session, sprite_sets);
     const std::string& language_file = session.configuration.language_file;
     try {
         session.language = read_language_file(session, language_file);
