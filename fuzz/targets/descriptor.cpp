@@ -9,9 +9,10 @@ void fuzz::descriptor(std::string_view bytes) {
     const bool taken = read_as("no kind");
     for (const auto& info : gfx::sprite_kinds) {
         const bool taken_for_kind = read_as(info.word);
-        assert(taken || !taken_for_kind); // a malformed line is an error for every kind
         const auto& table = tables.of(info.kind);
         assert(table.count >= 0 && table.count <= info.capacity);
+        // A malformed line is an error for every kind; only a known one has too many rows.
+        assert(taken_for_kind == taken || (taken && table.count == info.capacity));
         for (const auto& sprite : table.rows)
             assert(sprite.bitmap_path.empty() == sprite.set_name.empty());
         tables.take_rows_out(info.kind, "set");

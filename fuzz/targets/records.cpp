@@ -11,8 +11,9 @@ void fuzz::records(std::string_view bytes) {
             assert(++fields <= bytes.size());
             assert(reader.line() >= line);
             assert(field.find_first_of("\r\n") == std::string::npos);
-            if (field.find('"') == std::string::npos)
-                assert(data::RecordReader(data::quoted(field)).next() == field);
+            std::string without_quotes = field;
+            std::erase(without_quotes, '"');
+            assert(data::RecordReader(data::quoted(field)).next() == without_quotes);
         }
     });
 }

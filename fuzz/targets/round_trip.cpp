@@ -1,4 +1,5 @@
 #include "data/province_file.h"
+#include "shell/file_check.h"
 #include "targets.h"
 
 void fuzz::round_trip(std::string_view bytes) {
@@ -11,4 +12,8 @@ void fuzz::round_trip(std::string_view bytes) {
     assert(report.lines == data::last_province + 3);
     assert(report.provinces == data::last_province);
     assert(!table.has_unsaved_changes());
+
+    for (const auto& problem : shell::check_file(written).problems)
+        assert(problem.what == shell::Text::problem_lone_line_feeds ||
+               problem.what == shell::Text::problem_nul_bytes); // those are in the cells
 }
