@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <limits>
 #include <string>
 
 namespace map {
@@ -18,7 +19,9 @@ void check_has_pixels(const BitmapLayout& layout, std::uint64_t file_size) {
     const auto last_row = static_cast<std::uint64_t>(layout.height) - 1;
     const auto bytes_of_last = // its padding may be missing
         (static_cast<std::uint64_t>(layout.width) * layout.bits_per_pixel + 7) / 8;
-    const auto needed = layout.pixels_begin + last_row * layout.bytes_per_row + bytes_of_last;
+    const auto bytes_of_rows = last_row * layout.bytes_per_row + bytes_of_last;
+    constexpr auto most = std::numeric_limits<std::uint64_t>::max();
+    const auto needed = bytes_of_rows + std::min(layout.pixels_begin, most - bytes_of_rows);
     if (needed > file_size)
         throw image_error(
             "a bitmap of " + std::to_string(layout.width) + " x " + std::to_string(layout.height) +
