@@ -42,6 +42,13 @@ bool equal_ignoring_case(std::string_view left, std::string_view right) {
            (left == right || std::equal(left.begin(), left.end(), right.begin(), same_letter));
 }
 
+bool less_ignoring_case(std::string_view left, std::string_view right) {
+    return std::lexicographical_compare(
+        left.begin(), left.end(), right.begin(), right.end(), [](char one, char other) {
+            return static_cast<unsigned char>(fold(one)) < static_cast<unsigned char>(fold(other));
+        });
+}
+
 bool starts_with_ignoring_case(std::string_view text, std::string_view prefix) {
     return equal_ignoring_case(text.substr(0, prefix.size()), prefix);
 }

@@ -9,6 +9,9 @@ namespace data {
 /// Returns whether both texts are the same but for letter case.
 bool equal_ignoring_case(std::string_view left, std::string_view right);
 
+/// Returns whether the left text comes before the right one, byte by byte and letter case aside.
+bool less_ignoring_case(std::string_view left, std::string_view right);
+
 /// Returns whether the text begins with the prefix, letter case aside.
 bool starts_with_ignoring_case(std::string_view text, std::string_view prefix);
 

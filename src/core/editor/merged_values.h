@@ -15,7 +15,8 @@ struct MergedValue {
         common,
     };
     State state = State::none;
-    std::string text{}; // the common one in the spelling of the first province; else empty
+    std::string text{}; // the common one in the spelling of the first province; else empty, but for
+                        // the treaty's option
 
     friend bool operator==(const MergedValue&, const MergedValue&) = default;
 };

@@ -4,6 +4,7 @@
 #include "data/run_time_error.h"
 
 #include <algorithm>
+#include <array>
 
 namespace editor {
 
@@ -86,10 +87,24 @@ std::string with_province(std::string_view selection_text, int province) {
     return selection_text.empty() ? identifier : std::string(selection_text) + ";" + identifier;
 }
 
-void changement(data::ProvinceTable& table, const Selection& selection, std::string_view value,
-                data::FieldNumber field) {
-    for (const int province : selection.provinces())
-        table.write(province, data::table_column(field), value);
+int write_values(data::ProvinceTable& table, const Selection& selection,
+                 std::span<const FieldValue> values) {
+    int changed_provinces = 0;
+    for (const int province : selection.provinces()) {
+        bool changed = false;
+        for (const auto& [field, value] : values) {
+            const auto column = data::table_column(field);
+            changed = changed || table.cell(province, column) != value;
+            table.write(province, column, value);
+        }
+        changed_provinces += changed ? 1 : 0;
+    }
+    return changed_provinces;
+}
+
+int changement(data::ProvinceTable& table, const Selection& selection, std::string_view value,
+               data::FieldNumber field) {
+    return write_values(table, selection, std::array{FieldValue{field, value}});
 }
 
 } // namespace editor

@@ -40,8 +40,19 @@ bool is_well_formed(std::string_view selection_text);
 /// Returns the selection text with one more province.
 std::string with_province(std::string_view selection_text, int province);
 
-/// Writes the value into the field of every selected province.
-void changement(data::ProvinceTable& table, const Selection& selection, std::string_view value,
-                data::FieldNumber field);
+struct FieldValue {
+    data::FieldNumber field;
+    std::string_view value;
+};
+
+/// Writes the values into their fields of every selected province. Returns in how many provinces
+/// that changed something.
+int write_values(data::ProvinceTable& table, const Selection& selection,
+                 std::span<const FieldValue> values);
+
+/// Writes the value into the field of every selected province. Returns how many of them held
+/// another one.
+int changement(data::ProvinceTable& table, const Selection& selection, std::string_view value,
+               data::FieldNumber field);
 
 } // namespace editor

@@ -26,10 +26,10 @@ inline QString dialog_caption(const shell::LanguageTexts& language, std::string_
     return caption ? caption_text(*caption) : from_utf8(design);
 }
 
-/// Returns one of the program's own texts, with %1 replaced by the value.
+/// Returns one of the program's own texts, with %1 and %2 replaced by the values.
 inline QString own_text(const shell::LanguageTexts& language, shell::Text text,
-                        const QString& value = {}) {
-    return caption_text(language.text(text, {to_bytes(value)}));
+                        const QString& value = {}, const QString& second_value = {}) {
+    return caption_text(language.text(text, {to_bytes(value), to_bytes(second_value)}));
 }
 
 /// Returns what a caption names: without the mark of its shortcut and the dots that announce a

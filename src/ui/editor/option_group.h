@@ -39,6 +39,9 @@ class OptionGroup {
     void add(OptionButton& option, const std::string& code,
              const std::function<void(const std::string& code)>& chosen);
 
+    /// Returns the frame around the options. There must be one.
+    QWidget& frame() const { return *options_.front().button->parentWidget(); }
+
     /// Switches on the options whose code is the value, letter case aside, and off all others; the
     /// empty value switches none on.
     void show(std::string_view value) const;

@@ -5,17 +5,12 @@
 #include "base/qt_text.h"
 #include "editor/coded_choices.h"
 #include "editor/entry_field.h"
-#include "editor/numeric_entry.h"
-#include "editor/press_box.h"
+#include "editor/mark.h"
 #include "editor/tab_pages.h"
-#include "editor/variant_label.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
-#include <QSlider>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -95,8 +90,17 @@ void Panneau::show_selection() {
 }
 
 void Panneau::show_field(const Field& field) {
-    if (const Show& show = shows_[field.number])
-        show(shown_value(session_.provinces, session_.selection, field));
+    const Show& show = shows_[field.number];
+    if (!show)
+        return;
+    const MergedValue value = shown_value(session_.provinces, session_.selection, field);
+    show(value);
+    show_marks(field, value.state);
+}
+
+void Panneau::show_marks(const Field& field, MergedValue::State state) {
+    for (Mark* mark : marks_[field.number])
+        mark->set_shown(state == MergedValue::State::differing);
 }
 
 void Panneau::forget_shown() {
@@ -143,6 +147,8 @@ void Panneau::write(const std::string& value, const Field& field) {
     changement(session_.provinces, session_.selection, value, field.number);
     if (!anything_selected())
         show_field(field);
+    else
+        show_marks(field, merged_value(session_.provinces, session_.selection, field.number).state);
 }
 
 void Panneau::warn(const NumericField& numeric) {
@@ -159,117 +165,6 @@ void Panneau::warn_after_leaving(const Refusal& refusal, std::chrono::millisecon
         if (refusal.is_in_panel && refusal.selected == selected_provinces())
             pages_->return_to(refusal.field);
     });
-}
-
-Panneau::Show Panneau::bind(const Field& field) {
-    switch (field.display) {
-    case Display::nowhere:
-        return {};
-    case Display::text:
-        return bind_text(field);
-    case Display::slider:
-        return bind_slider(field);
-    case Display::group:
-    case Display::treaty:
-        return bind_group(field);
-    case Display::list:
-        return bind_list(field);
-    case Display::box:
-    case Display::coast:
-        return bind_box(field);
-    case Display::position:
-    case Display::variant:
-        return bind_label(field);
-    }
-    return {};
-}
-
-Panneau::Show Panneau::bind_text(const Field& field) {
-    auto& text = controls_.get<EntryField>(from_utf8(field.control));
-    const auto store = [this, &text, &field] {
-        const std::string entered = text.bytes();
-        text.show_stored(entered);
-        write(entered, field);
-    };
-    connect(&text, &EntryField::entered, this, store);
-    connect(&text, &EntryField::left, this, store);
-    entries_.push_back({field.number, &text, store, store, [&text] { return text.bytes(); }});
-    return [&text](const MergedValue& value) { text.show_bytes(value.text); };
-}
-
-Panneau::Show Panneau::bind_slider(const Field& field) {
-    const NumericField& numeric = numeric_field(field.number);
-    auto& text = controls_.get<EntryField>(from_utf8(field.control));
-    auto& slider = controls_.get<QSlider>(from_utf8(numeric.slider));
-    auto* entry = new NumericEntry(
-        numeric, text, slider, [this, &field](const std::string& value) { write(value, field); });
-    connect(entry, &NumericEntry::refused, this, [this, &numeric] { warn(numeric); });
-    connect(entry, &NumericEntry::refused_when_left, this, [this, &numeric, &text] {
-        const bool is_in_panel = isAncestorOf(QApplication::focusWidget());
-        warn_after_leaving({numeric, text, is_in_panel, selected_provinces()}, 0ms);
-    });
-    entries_.push_back({field.number, &text, [entry] { entry->enter(); },
-                        [entry] { entry->store(); }, [entry] { return entry->stored_text(); }});
-    return [entry](const MergedValue& value) { entry->show(value.text); };
-}
-
-Panneau::Show Panneau::bind_group(const Field& field) {
-    auto& group = *groups_.emplace_back(std::make_unique<OptionGroup>());
-    const auto entries = session_.language.list(field.list_prefix);
-    for (std::size_t n = 0; n < shell::capacity(field.list_prefix); ++n) {
-        auto& option = controls_.get<OptionButton>(
-            QStringLiteral("%1(%2)").arg(from_utf8(field.control)).arg(n));
-        if (n >= entries.size()) {
-            group.add(option);
-            continue;
-        }
-        option.setText(base::caption_text(entries[n].text));
-        group.add(option, entries[n].code, [this, &field](const std::string& code) {
-            choose(session_.provinces, session_.selection, field, code);
-            show_field(field);
-        });
-    }
-    return [&group](const MergedValue& value) { group.show(value.text); };
-}
-
-Panneau::Show Panneau::bind_list(const Field& field) {
-    auto& list = controls_.get<QComboBox>(from_utf8(field.control));
-    const auto entries = session_.language.list(field.list_prefix);
-    const auto items = shell::capacity(field.list_prefix);
-    for (std::size_t n = 0; n < items; ++n) {
-        const std::string text = n < entries.size() ? entries[n].text : std::string();
-        list.addItem(base::caption_text(text), to_qstring(text));
-    }
-    connect(&list, &QComboBox::activated, this, [this, &list, entries, items, &field] {
-        write(shell::code_of_text(entries, items, to_bytes(list.currentData().toString())), field);
-    });
-    return [&list, entries](const MergedValue& value) {
-        const bool is_common = value.state == MergedValue::State::common;
-        list.setCurrentIndex(is_common ? shell::index_of_code(entries, value.text) : -1);
-    };
-}
-
-Panneau::Show Panneau::bind_box(const Field& field) {
-    auto& box = controls_.get<PressBox>(from_utf8(field.control));
-    const auto entries = session_.language.list(field.list_prefix);
-    if (field.list_entry < entries.size())
-        box.setText(base::caption_text(entries[field.list_entry].text));
-    connect(&box, &QAbstractButton::pressed, this, [this, &box, &field] {
-        changement(session_.provinces, session_.selection,
-                   value_after_press(field, box.isChecked()), field.number);
-        show_field(field);
-    });
-    return
-        [&box, &field](const MergedValue& value) { box.setChecked(is_checked(field, value.text)); };
-}
-
-Panneau::Show Panneau::bind_label(const Field& field) {
-    auto& label = controls_.get<QLabel>(from_utf8(field.control));
-    if (field.display == Display::variant) {
-        connect(&controls_.get<VariantLabel>(from_utf8(field.control)), &VariantLabel::clicked,
-                this, [this, &label, &field] { write(to_bytes(label.text()), field); });
-    }
-    return [&label](const MergedValue& value) { label.setText(to_qstring(value.text)); };
 }
 
 } // namespace editor

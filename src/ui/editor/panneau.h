@@ -22,6 +22,7 @@ class QPushButton;
 namespace editor {
 
 class EntryField;
+class Mark;
 class TabPages;
 
 /// The tabbed panel: shows the merged values of the selected provinces, and writes what the user
@@ -77,6 +78,7 @@ class Panneau : public QWidget {
     QWidget* build_selection_row();
     QPushButton* build_button(std::string_view name, std::string_view design, QWidget* row);
 
+    // What binds the fields to their controls.
     Show bind(const Field& field);
     Show bind_text(const Field& field);
     Show bind_slider(const Field& field);
@@ -85,9 +87,13 @@ class Panneau : public QWidget {
     Show bind_box(const Field& field);
     Show bind_label(const Field& field);
 
+    /// Gives a control of the field the mark of differing provinces.
+    void mark(const Field& field, QWidget& control);
+
     bool anything_selected() const;
     std::vector<int> selected_provinces() const;
     void show_field(const Field& field);
+    void show_marks(const Field& field, MergedValue::State state);
 
     /// Writes what was entered into a field's control; with nothing selected the control is empty
     /// then.
@@ -113,6 +119,7 @@ class Panneau : public QWidget {
     Controls controls_;
     TabPages* pages_ = nullptr;
     data::FieldArray<Show> shows_;
+    data::FieldArray<std::vector<Mark*>> marks_;
     std::vector<std::unique_ptr<OptionGroup>> groups_;
     std::vector<Entry> entries_;
 };

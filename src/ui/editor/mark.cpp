@@ -1,0 +1,79 @@
+#include "editor/mark.h"
+
+#include <QEvent>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include <utility>
+
+namespace editor {
+
+namespace {
+
+constexpr auto placeholder = "placeholderText"; // property of text fields and lists
+// Of 255.
+constexpr int tint_opacity = 40;
+constexpr int placeholder_opacity = 170;
+
+/// Returns the plain text, whatever it looks like, as the text of a tool tip.
+QString as_tool_tip(const QString& text) {
+    return QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped());
+}
+
+/// Returns nothing but the colour of placeholders: not every dark palette has one that can be read.
+QPalette readable_placeholder(const QPalette& palette) {
+    QColor colour = palette.color(QPalette::Text);
+    colour.setAlpha(placeholder_opacity);
+    QPalette readable;
+    readable.setColor(QPalette::PlaceholderText, colour);
+    return readable;
+}
+
+} // namespace
+
+Mark::Mark(QWidget& control, QString words, std::function<QString()> tip)
+    : QWidget(&control), control_(control), words_(std::move(words)), tip_(std::move(tip)) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    hide();
+    control.installEventFilter(this);
+}
+
+void Mark::set_shown(bool shown) {
+    setVisible(shown);
+    const QString words = shown ? words_ : QString();
+    control_.setAccessibleDescription(words);
+    if (control_.metaObject()->indexOfProperty(placeholder) >= 0) {
+        control_.setPalette(readable_placeholder(control_.palette()));
+        control_.setProperty(placeholder, words);
+    }
+    if (!shown)
+        return;
+    resize(control_.size());
+    raise();
+}
+
+bool Mark::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize) {
+        resize(control_.size());
+    } else if (event->type() == QEvent::ToolTip && !isHidden()) {
+        QString text = tip_();
+        if (const QString lasting = control_.toolTip(); !lasting.isEmpty())
+            text += '\n' + lasting;
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), as_tool_tip(text),
+                           &control_);
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void Mark::paintEvent(QPaintEvent*) {
+    QColor tint = palette().color(QPalette::Highlight);
+    QPainter painter(this);
+    painter.setPen(QPen(tint, 1, Qt::DashLine));
+    tint.setAlpha(tint_opacity);
+    painter.setBrush(tint);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+} // namespace editor

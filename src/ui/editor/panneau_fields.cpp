@@ -1,0 +1,148 @@
+#include "base/captions.h"
+#include "base/qt_text.h"
+#include "editor/coded_choices.h"
+#include "editor/differing_tip.h"
+#include "editor/entry_field.h"
+#include "editor/mark.h"
+#include "editor/numeric_entry.h"
+#include "editor/panneau.h"
+#include "editor/press_box.h"
+#include "editor/variant_label.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QSlider>
+
+namespace editor {
+
+using base::from_utf8;
+using base::to_bytes;
+using base::to_qstring;
+using namespace std::chrono_literals;
+
+Panneau::Show Panneau::bind(const Field& field) {
+    switch (field.display) {
+    case Display::nowhere:
+        return {};
+    case Display::text:
+        return bind_text(field);
+    case Display::slider:
+        return bind_slider(field);
+    case Display::group:
+    case Display::treaty:
+        return bind_group(field);
+    case Display::list:
+        return bind_list(field);
+    case Display::box:
+    case Display::coast:
+        return bind_box(field);
+    case Display::position:
+    case Display::variant:
+        return bind_label(field);
+    }
+    return {};
+}
+
+void Panneau::mark(const Field& field, QWidget& control) {
+    marks_[field.number].push_back(
+        new Mark(control, base::own_text(session_.language, shell::Text::differing_placeholder),
+                 [this, &field] { return differing_tip(session_, field); }));
+}
+
+Panneau::Show Panneau::bind_text(const Field& field) {
+    auto& text = controls_.get<EntryField>(from_utf8(field.control));
+    const auto store = [this, &text, &field] {
+        const std::string entered = text.bytes();
+        text.show_stored(entered);
+        write(entered, field);
+    };
+    connect(&text, &EntryField::entered, this, store);
+    connect(&text, &EntryField::left, this, store);
+    entries_.push_back({field.number, &text, store, store, [&text] { return text.bytes(); }});
+    mark(field, text);
+    return [&text](const MergedValue& value) { text.show_bytes(value.text); };
+}
+
+Panneau::Show Panneau::bind_slider(const Field& field) {
+    const NumericField& numeric = numeric_field(field.number);
+    auto& text = controls_.get<EntryField>(from_utf8(field.control));
+    auto& slider = controls_.get<QSlider>(from_utf8(numeric.slider));
+    auto* entry = new NumericEntry(
+        numeric, text, slider, [this, &field](const std::string& value) { write(value, field); });
+    connect(entry, &NumericEntry::refused, this, [this, &numeric] { warn(numeric); });
+    connect(entry, &NumericEntry::refused_when_left, this, [this, &numeric, &text] {
+        const bool is_in_panel = isAncestorOf(QApplication::focusWidget());
+        warn_after_leaving({numeric, text, is_in_panel, selected_provinces()}, 0ms);
+    });
+    entries_.push_back({field.number, &text, [entry] { entry->enter(); },
+                        [entry] { entry->store(); }, [entry] { return entry->stored_text(); }});
+    mark(field, text);
+    mark(field, slider);
+    return [entry](const MergedValue& value) { entry->show(value.text); };
+}
+
+Panneau::Show Panneau::bind_group(const Field& field) {
+    auto& group = *groups_.emplace_back(std::make_unique<OptionGroup>());
+    const auto entries = session_.language.list(field.list_prefix);
+    for (std::size_t n = 0; n < shell::capacity(field.list_prefix); ++n) {
+        auto& option = controls_.get<OptionButton>(
+            QStringLiteral("%1(%2)").arg(from_utf8(field.control)).arg(n));
+        if (n >= entries.size()) {
+            group.add(option);
+            continue;
+        }
+        option.setText(base::caption_text(entries[n].text));
+        group.add(option, entries[n].code, [this, &field](const std::string& code) {
+            choose(session_.provinces, session_.selection, field, code);
+            show_field(field);
+        });
+    }
+    mark(field, group.frame());
+    return [&group](const MergedValue& value) { group.show(value.text); };
+}
+
+Panneau::Show Panneau::bind_list(const Field& field) {
+    auto& list = controls_.get<QComboBox>(from_utf8(field.control));
+    const auto entries = session_.language.list(field.list_prefix);
+    const auto items = shell::capacity(field.list_prefix);
+    for (std::size_t n = 0; n < items; ++n) {
+        const std::string text = n < entries.size() ? entries[n].text : std::string();
+        list.addItem(base::caption_text(text), to_qstring(text));
+    }
+    connect(&list, &QComboBox::activated, this, [this, &list, entries, items, &field] {
+        write(shell::code_of_text(entries, items, to_bytes(list.currentData().toString())), field);
+    });
+    mark(field, list);
+    return [&list, entries](const MergedValue& value) {
+        const bool is_common = value.state == MergedValue::State::common;
+        list.setCurrentIndex(is_common ? shell::index_of_code(entries, value.text) : -1);
+    };
+}
+
+Panneau::Show Panneau::bind_box(const Field& field) {
+    auto& box = controls_.get<PressBox>(from_utf8(field.control));
+    const auto entries = session_.language.list(field.list_prefix);
+    if (field.list_entry < entries.size())
+        box.setText(base::caption_text(entries[field.list_entry].text));
+    connect(&box, &QAbstractButton::pressed, this, [this, &box, &field] {
+        changement(session_.provinces, session_.selection,
+                   value_after_press(field, box.isChecked()), field.number);
+        show_field(field);
+    });
+    mark(field, box);
+    return
+        [&box, &field](const MergedValue& value) { box.setChecked(is_checked(field, value.text)); };
+}
+
+Panneau::Show Panneau::bind_label(const Field& field) {
+    auto& label = controls_.get<QLabel>(from_utf8(field.control));
+    if (field.display == Display::variant) {
+        connect(&controls_.get<VariantLabel>(from_utf8(field.control)), &VariantLabel::clicked,
+                this, [this, &label, &field] { write(to_bytes(label.text()), field); });
+    }
+    mark(field, label);
+    return [&label](const MergedValue& value) { label.setText(to_qstring(value.text)); };
+}
+
+} // namespace editor
