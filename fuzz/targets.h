@@ -12,6 +12,7 @@
 namespace fuzz {
 
 void assignment(std::string_view bytes);
+void backup_names(std::string_view bytes);
 void bitmap(std::string_view bytes);
 void configuration(std::string_view bytes);
 void descriptor(std::string_view bytes);
@@ -28,8 +29,9 @@ struct Target {
     void (*run)(std::string_view bytes);
 };
 
-inline constexpr std::array<Target, 11> targets = {{
+inline constexpr std::array<Target, 12> targets = {{
     {"assignment", assignment},
+    {"backup_names", backup_names},
     {"bitmap", bitmap},
     {"configuration", configuration},
     {"descriptor", descriptor},

@@ -43,6 +43,7 @@ std::string backup_name(std::string_view file, std::string_view time, int number
 }
 
 bool read_backup_name(std::string_view name, BackupName& backup) {
+    const auto whole = name;
     backup.number = 1;
     const auto last = name.rfind('-');
     if (last != std::string_view::npos && last > time_size &&
@@ -55,7 +56,8 @@ bool read_backup_name(std::string_view name, BackupName& backup) {
         return false;
     backup.time = name.substr(name.size() - time_size);
     backup.file = name.substr(0, name.size() - time_size - 1);
-    return true;
+    // Another spelling of the number ("-007") is a file of the user's.
+    return backup_name(backup.file, backup.time, backup.number) == whole;
 }
 
 std::vector<std::string> superfluous_backups(std::span<const std::string> names,
