@@ -273,7 +273,7 @@ bool Form4::take_name_to_save() {
     const bool is_full = base::is_full_path(name);
     if (!is_full && (!folders_->is_still_there() || !can_take_open_folder()))
         return false;
-    if (is_full ? !base::is_storable_path(name) : !base::is_storable(name)) {
+    if (is_full ? !base::is_storable_path(name) : !base::is_storable_text(name)) {
         base::show_unstorable(session_, this);
         return false;
     }
