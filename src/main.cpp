@@ -4,6 +4,7 @@
 #include "data/province_file.h"
 #include "shell/application.h"
 #include "shell/command_line.h"
+#include "shell/etat.h"
 #include "shell/mdi_form1.h"
 #include "shell/start_up.h"
 #include "shell/termination.h"
@@ -92,6 +93,10 @@ int run_program(shell::Application& application, shell::Session& session,
     application.keep_typed_text = [kept = QPointer(&frame)] {
         if (kept)
             kept->keep_typed_text();
+    };
+    application.after_event = [etat = QPointer(&frame.etat())] {
+        if (etat)
+            etat->look();
     };
     const shell::Termination termination([&](int status) { application.terminate(status); },
                                          [&] { application.save_unsaved(); });

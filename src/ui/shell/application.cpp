@@ -19,7 +19,9 @@ Application::Application(int& argc, char** argv, Session& session, std::function
 
 bool Application::notify(QObject* receiver, QEvent* event) {
     try {
-        return QApplication::notify(receiver, event);
+        const bool taken = QApplication::notify(receiver, event);
+        after_event();
+        return taken;
     } catch (const std::exception& error) {
         end_with_error(error);
         return true;

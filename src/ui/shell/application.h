@@ -31,6 +31,9 @@ class Application : public QApplication {
 
     void event_loop_begins() { in_event_loop_ = true; }
 
+    /// Runs after every event.
+    std::function<void()> after_event = [] {};
+
     /// Takes into the table what was typed and not yet entered; runs before every recovery copy.
     std::function<void()> keep_typed_text = [] {};
 

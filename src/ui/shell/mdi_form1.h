@@ -28,6 +28,7 @@ class Panneau;
 
 namespace shell {
 
+class Etat;
 class Notice;
 
 /// The main frame: menus, the workspace of the map window, the panel and the status bar. Its
@@ -68,6 +69,9 @@ class MDIForm1 : public QMainWindow {
     /// Shows what happened in the status bar for a while.
     void tell(const QString& notice);
 
+    /// Returns the part of the status bar that is to look after every event whether it still holds.
+    Etat& etat() const { return *etat_; }
+
   protected:
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -103,6 +107,7 @@ class MDIForm1 : public QMainWindow {
     map::Form1* map_window();
     void make_map_window();
     void fit_map_window();
+    void show_pointed(int province, const QPointF& position);
 
     Session& session_;
     std::map<std::string_view, QAction*> actions_; // by their names in the menus' table
@@ -113,6 +118,8 @@ class MDIForm1 : public QMainWindow {
     QPointer<map::Form1> map_;
     QRect fitted_; // where the map window was put last; its frame's place in the workspace
     QLabel* mode_text_ = nullptr;
+    Etat* etat_ = nullptr;
+    QLabel* pointed_name_ = nullptr;
     Notice* notice_ = nullptr;
     QLabel* pointer_text_ = nullptr;
 };
