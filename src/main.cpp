@@ -2,6 +2,7 @@
 #include "shell/application.h"
 #include "shell/batch_run.h"
 #include "shell/command_line.h"
+#include "shell/etat.h"
 #include "shell/mdi_form1.h"
 #include "shell/read_report.h"
 #include "shell/start_up.h"
@@ -91,6 +92,10 @@ int run_program(shell::Application& application, shell::Session& session,
     });
     QObject::connect(&application.copy_timer(), &shell::CopyTimer::failed, &frame,
                      &shell::MDIForm1::tell);
+    application.after_event = [etat = QPointer(&frame.etat())] {
+        if (etat)
+            etat->look();
+    };
     const shell::Termination termination([&](int status) { application.terminate(status); },
                                          [&] { application.save_unsaved(); });
     if (line.screenshot) {

@@ -2,6 +2,7 @@
 
 #include "base/captions.h"
 #include "base/files.h"
+#include "shell/etat.h"
 #include "shell/mdi_form1.h"
 #include "support/dialog_driver.h"
 #include "support/folder.h"
@@ -49,6 +50,10 @@ class MainFrame : public testing::Test {
     void start() {
         frame = std::make_unique<shell::MDIForm1>(session, application.copies(),
                                                   shell::start_up(session));
+        application.after_event = [etat = QPointer(&frame->etat())] {
+            if (etat)
+                etat->look();
+        };
         frame->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(frame.get()));
     }

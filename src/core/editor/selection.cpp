@@ -40,6 +40,7 @@ void Selection::mark(double first, double last) {
 }
 
 void Selection::list_provinces() {
+    ++version_;
     provinces_.clear();
     for (int province = 0; province <= data::last_province; ++province) {
         if (flags_[static_cast<std::size_t>(province)] != 0)

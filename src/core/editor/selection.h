@@ -2,6 +2,7 @@
 
 #include "data/province_table.h"
 
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -20,6 +21,9 @@ class Selection {
     /// Returns the selected provinces' identifiers in increasing order.
     std::span<const int> provinces() const { return provinces_; }
 
+    /// Returns a number that grows with every selection.
+    std::uint64_t version() const { return version_; }
+
     /// Selects what the text names: identifiers and ranges of two, separated by ";". The text is
     /// taken as far as it reads; identifier 0 is never selected. Throws subscript out of range at
     /// an identifier above 2018; what was named before it is selected then.
@@ -31,6 +35,7 @@ class Selection {
 
     std::vector<char> flags_;
     std::vector<int> provinces_;
+    std::uint64_t version_ = 0;
 };
 
 /// Returns whether the text keeps to the form of a selection: digits, with each "-" and ";" right

@@ -14,6 +14,7 @@ namespace map {
 namespace {
 
 constexpr std::string_view none = "-1";
+constexpr std::string_view sum = "map offset and press added"; // where a press overflows
 
 void write(data::ProvinceTable& provinces, int province, data::FileColumn column,
            std::string_view text) {
@@ -28,23 +29,25 @@ void step_variant(data::ProvinceTable& provinces, int province, data::FileColumn
     write(provinces, province, column, data::to_text(variant >= last_variant ? 0 : variant + 1));
 }
 
-/// Returns the column of the clicked province as the place of an error in a sum.
-std::string place_of_sum(int province, data::FileColumn column) {
-    return "province " + std::to_string(province) + ", " + std::string(data::header(column)) +
-           ", map offset and press added";
+/// Calls the function; an error in it gets the province's column as its place.
+template <typename Function>
+auto within_column(int province, data::FileColumn column, Function function) {
+    try {
+        return function();
+    } catch (const data::RunTimeError& error) {
+        throw error.within("province " + std::to_string(province) + ", " +
+                           std::string(data::header(column)));
+    }
 }
 
 void write_position(data::ProvinceTable& provinces, const PositionColumns& columns,
                     const Click& click, const Maps& maps) {
-    const double x = maps.x_offset + click.press_x;
-    if (!std::isfinite(x))
-        throw data::RunTimeError(data::ErrorNumber::overflow,
-                                 place_of_sum(click.province, columns.x) +
-                                     ": a number of at most 308 digits was expected");
+    const auto x =
+        within_column(click.province, columns.x, [&] { return stored_x(maps, click.press_x); });
     const auto y =
-        data::to_int16(maps.y_offset + click.press_y, place_of_sum(click.province, columns.y));
-    write(provinces, click.province, columns.x, data::to_text(x));
-    write(provinces, click.province, columns.y, std::to_string(y));
+        within_column(click.province, columns.y, [&] { return stored_y(maps, click.press_y); });
+    write(provinces, click.province, columns.x, x);
+    write(provinces, click.province, columns.y, y);
 }
 
 void press_left(const PositionColumns& columns, const Click& click, const Maps& maps,
@@ -72,6 +75,19 @@ void press_right(const PositionColumns& columns, const Click& click, PortPlaceme
 }
 
 } // namespace
+
+std::string stored_x(const Maps& maps, double press_x) {
+    const double x = maps.x_offset + press_x;
+    if (!std::isfinite(x))
+        throw data::RunTimeError(data::ErrorNumber::overflow,
+                                 std::string(sum) +
+                                     ": a number of at most 308 digits was expected");
+    return data::to_text(x);
+}
+
+std::string stored_y(const Maps& maps, std::int16_t press_y) {
+    return std::to_string(data::to_int16(maps.y_offset + press_y, sum));
+}
 
 void enter_position(Mode mode, const Click& click, const Maps& maps, PortPlacement& port,
                     data::ProvinceTable& provinces) {

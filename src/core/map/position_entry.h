@@ -6,6 +6,7 @@
 #include "map/port_placement.h"
 
 #include <cstdint>
+#include <string>
 
 namespace map {
 
@@ -26,6 +27,14 @@ struct Click {
     std::int16_t press_y;
     int province; // identifier at the release
 };
+
+/// Returns what a press at that X of the map, in pixels, stores. Throws overflow where the sum with
+/// the map offset is no decimal number.
+std::string stored_x(const Maps& maps, double press_x);
+
+/// Returns what a press at that Y of the map, in pixels, stores. Throws overflow where the sum with
+/// the map offset is outside 16 bits.
+std::string stored_y(const Maps& maps, std::int16_t press_y);
 
 /// Does what a click does in a position-entry mode. Throws overflow for a Y outside 16 bits and for
 /// an X that is no decimal number, subscript out of range for a province above 2018; nothing is

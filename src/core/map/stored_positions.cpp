@@ -1,7 +1,6 @@
 #include "map/stored_positions.h"
 
 #include "data/numbers.h"
-#include "map/position_columns.h"
 
 #include <algorithm>
 #include <array>
@@ -21,21 +20,35 @@ bool is_none(double x, double y) {
     return x == y && std::find(none.begin(), none.end(), x) != none.end();
 }
 
+struct Pair {
+    double x;
+    double y;
+};
+
+/// Returns the pair of numbers that the columns hold; nothing when it stands for no position.
+std::optional<Pair> stored_pair(const data::ProvinceTable& provinces,
+                                const PositionColumns& columns, int province) {
+    const std::string& x_cell = provinces.cell(province, data::table_column(columns.x));
+    const std::string& y_cell = provinces.cell(province, data::table_column(columns.y));
+    if (x_cell.empty() || y_cell.empty())
+        return {};
+    const Pair pair{data::leading_number(x_cell), data::leading_number(y_cell)};
+    if (is_none(pair.x, pair.y))
+        return {};
+    return pair;
+}
+
 /// Nothing lies farther out: no surface is larger, and a whole number of pixels stays exact.
 constexpr double farthest = 1 << 24;
 
 std::optional<StoredPosition> position(const data::ProvinceTable& provinces,
                                        const PositionColumns& columns, const Maps& maps,
                                        int province) {
-    const std::string& x_cell = provinces.cell(province, data::table_column(columns.x));
-    const std::string& y_cell = provinces.cell(province, data::table_column(columns.y));
-    if (x_cell.empty() || y_cell.empty())
+    const auto pair = stored_pair(provinces, columns, province);
+    if (!pair)
         return {};
-    const double x = data::leading_number(x_cell);
-    const double y = data::leading_number(y_cell);
-    if (is_none(x, y))
-        return {};
-    const StoredPosition on_map{province, columns.drawing, x - maps.x_offset, y - maps.y_offset};
+    const StoredPosition on_map{province, columns.drawing, pair->x - maps.x_offset,
+                                pair->y - maps.y_offset};
     if (!(std::abs(on_map.x) <= farthest && std::abs(on_map.y) <= farthest))
         return {};
     return on_map;
@@ -47,6 +60,11 @@ bool contains(const Area& area, const StoredPosition& position) {
 }
 
 } // namespace
+
+bool has_position(const data::ProvinceTable& provinces, const PositionColumns& columns,
+                  int province) {
+    return stored_pair(provinces, columns, province).has_value();
+}
 
 std::vector<StoredPosition> positions_of(const data::ProvinceTable& provinces, Mode mode,
                                          const Maps& maps, int province) {

@@ -3,6 +3,7 @@
 #include "data/province_table.h"
 #include "map/maps.h"
 #include "map/mode.h"
+#include "map/position_columns.h"
 
 #include <vector>
 
@@ -23,6 +24,11 @@ struct StoredPosition {
     double x;    // pixels of the map
     double y;
 };
+
+/// Returns whether the columns hold a position of the province: the pair is neither empty nor -1
+/// nor -100. Throws subscript out of range.
+bool has_position(const data::ProvinceTable& provinces, const PositionColumns& columns,
+                  int province);
 
 /// Returns the province's positions that the mode places; a pair that is empty, -1 or -100, or that
 /// lies beyond all maps, is none.

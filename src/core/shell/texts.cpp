@@ -49,10 +49,10 @@ constexpr data::IndexedArray<Text, TextInfo, text_count> texts = {{{
     {Text::notice_write_one, "notice_write_one", "%1: 1 province"},
     {Text::notice_write, "notice_write", "%1: %2 provinces"},
     {Text::notice_semicolon, "notice_semicolon",
-     "%1: a semicolon moves the rest of the line by one column in the saved file and in a recovery "
+     "A semicolon moves the rest of the line by one column in the saved file and in a recovery "
      "copy"},
     {Text::notice_outside_code_page, "notice_outside_code_page",
-     "%1: characters that the game's code page lacks were stored as ?"},
+     "Characters that the game's code page lacks were stored as ?"},
     {Text::notice_saved, "notice_saved", "Saved: %1"},
     {Text::notice_changed_outside, "notice_changed_outside",
      "Another program has changed the file since it was read or saved here: %1"},

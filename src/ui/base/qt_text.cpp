@@ -54,6 +54,10 @@ std::string to_bytes(const QString& text) {
     return bytes;
 }
 
+bool page_holds(const QString& text) {
+    return to_qstring(to_bytes(text)) == text.normalized(QString::NormalizationForm_C);
+}
+
 QString from_utf8(std::string_view literal) {
     return QString::fromUtf8(literal.data(), static_cast<qsizetype>(literal.size()));
 }

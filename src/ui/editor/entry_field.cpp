@@ -27,10 +27,12 @@ EntryField::EntryField(QWidget* parent) : OneLineEdit(parent) {
 void EntryField::show_bytes(const std::string& bytes) {
     setText(base::to_qstring(bytes));
     setCursorPosition(0);
+    lost_characters_ = false;
     shown_is_current_ = true;
 }
 
 void EntryField::show_stored(const std::string& bytes) {
+    lost_characters_ = !base::page_holds(text());
     const QString stored = base::to_qstring(bytes);
     if (stored != text()) {
         const int cursor = cursorPosition();

@@ -22,6 +22,9 @@ class EntryField : public OneLineEdit {
 
     std::string bytes() const;
 
+    /// Returns whether the entry that is shown had characters that were stored as "?".
+    bool lost_characters() const { return lost_characters_; }
+
     /// Tells the field that the table no longer holds what it shows: leaving it untouched is to
     /// write nothing then, until it shows bytes again.
     void forget_shown() { shown_is_current_ = false; }
@@ -35,6 +38,7 @@ class EntryField : public OneLineEdit {
 
   private:
     bool shown_is_current_ = true;
+    bool lost_characters_ = false;
 };
 
 /// The reason for a focus that the program moves, not the user: no field counts that as being left.

@@ -149,6 +149,7 @@ class TabBuilder {
     template <typename Button>
     QWidget* buttons(const Block& block) const {
         auto* box = new QGroupBox(caption(block), frame_);
+        box->setAccessibleName(base::without_marks(caption(block)));
         box->setObjectName(object_name(block.caption_key));
         auto* grid = new QGridLayout(box);
         grid->setContentsMargins(8, 4, 4, 4);

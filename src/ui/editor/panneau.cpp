@@ -7,6 +7,7 @@
 #include "editor/entry_field.h"
 #include "editor/mark.h"
 #include "editor/tab_pages.h"
+#include "editor/write_notice.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -36,7 +37,7 @@ Panneau::Panneau(shell::Session& session, QWidget* parent)
     pages_ = new TabPages(session.language, controls_, this);
     column->addWidget(pages_);
     for (const Field& field : fields)
-        shows_[field.number] = bind(field);
+        bound_[field.number].show = bind(field);
     pages_->fit_to_captions();
     show_selection();
 }
@@ -53,8 +54,12 @@ QWidget* Panneau::build_selection_row() {
     layout->addWidget(selection_text_);
     auto* select = build_button("Command1", "Sélectionner", row);
     auto* clear = build_button("Command2", "Effacer", row);
-    selection_text_->setAccessibleName(select->text());
+    selection_text_->setAccessibleName(base::without_marks(select->text()));
+    const QString tip = base::own_text(session_.language, shell::Text::selection_not_applied_tip);
+    not_applied_ = new Mark(*selection_text_, tip, [tip] { return tip; });
 
+    connect(selection_text_, &QLineEdit::textChanged, this,
+            [this](const QString& text) { not_applied_->set_shown(text != applied_text_); });
     connect(selection_text_, &QLineEdit::returnPressed, this, &Panneau::selection_entered);
     connect(select, &QPushButton::clicked, this, &Panneau::selection_entered);
     connect(clear, &QPushButton::clicked, this, [this] {
@@ -79,6 +84,11 @@ void Panneau::set_selection_text(const std::string& text) {
     selection_text_->setText(to_qstring(text));
 }
 
+void Panneau::selection_applied() {
+    applied_text_ = selection_text_->text();
+    not_applied_->set_shown(false);
+}
+
 void Panneau::focus_selection_text() {
     selection_text_->setFocus(Qt::ShortcutFocusReason);
     selection_text_->selectAll();
@@ -90,16 +100,16 @@ void Panneau::show_selection() {
 }
 
 void Panneau::show_field(const Field& field) {
-    const Show& show = shows_[field.number];
-    if (!show)
+    const auto& bound = bound_[field.number];
+    if (!bound.show)
         return;
     const MergedValue value = shown_value(session_.provinces, session_.selection, field);
-    show(value);
+    bound.show(value);
     show_marks(field, value.state);
 }
 
 void Panneau::show_marks(const Field& field, MergedValue::State state) {
-    for (Mark* mark : marks_[field.number])
+    for (Mark* mark : bound_[field.number].marks)
         mark->set_shown(state == MergedValue::State::differing);
 }
 
@@ -143,12 +153,21 @@ std::vector<int> Panneau::selected_provinces() const {
     return {provinces.begin(), provinces.end()};
 }
 
-void Panneau::write(const std::string& value, const Field& field) {
-    changement(session_.provinces, session_.selection, value, field.number);
+void Panneau::write(const std::string& value, const Field& field, bool lost_characters) {
+    tell(field, changement(session_.provinces, session_.selection, value, field.number), value,
+         lost_characters);
     if (!anything_selected())
         show_field(field);
     else
         show_marks(field, merged_value(session_.provinces, session_.selection, field.number).state);
+}
+
+void Panneau::tell(const Field& field, int provinces, std::string_view value,
+                   bool lost_characters) {
+    const QString notice = write_notice(
+        session_.language, {bound_[field.number].name, provinces, value, lost_characters});
+    if (!notice.isEmpty())
+        emit told(notice);
 }
 
 void Panneau::warn(const NumericField& numeric) {

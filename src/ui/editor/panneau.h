@@ -36,6 +36,9 @@ class Panneau : public QWidget {
     std::string selection_text() const;
     void set_selection_text(const std::string& text);
 
+    /// Tells the panel that the selection text is the applied one: another one is marked.
+    void selection_applied();
+
     /// Gives the selection text the keyboard focus.
     void focus_selection_text();
 
@@ -60,11 +63,19 @@ class Panneau : public QWidget {
     QSize sizeHint() const override;
 
   signals:
-    void selection_entered(); ///< The selection text is to be applied.
+    void selection_entered();         ///< The selection text is to be applied.
+    void told(const QString& notice); ///< What an entry changed.
 
   private:
     /// Puts a merged value into a field's control.
     using Show = std::function<void(const MergedValue& value)>;
+
+    /// What shows a field.
+    struct Bound {
+        Show show;
+        QString name;
+        std::vector<Mark*> marks;
+    };
 
     /// A text field and how its typed text is stored.
     struct Entry {
@@ -87,8 +98,8 @@ class Panneau : public QWidget {
     Show bind_box(const Field& field);
     Show bind_label(const Field& field);
 
-    /// Gives a control of the field the mark of differing provinces.
-    void mark(const Field& field, QWidget& control);
+    /// Gives a control of the field the mark of differing provinces, and the field its name.
+    void adopt(const Field& field, QWidget& control);
 
     bool anything_selected() const;
     std::vector<int> selected_provinces() const;
@@ -97,7 +108,11 @@ class Panneau : public QWidget {
 
     /// Writes what was entered into a field's control; with nothing selected the control is empty
     /// then.
-    void write(const std::string& value, const Field& field);
+    void write(const std::string& value, const Field& field, bool lost_characters = false);
+
+    /// Shows what the write of a value changed.
+    void tell(const Field& field, int provinces, std::string_view value,
+              bool lost_characters = false);
 
     void warn(const NumericField& numeric);
 
@@ -116,10 +131,11 @@ class Panneau : public QWidget {
 
     shell::Session& session_;
     QLineEdit* selection_text_;
+    Mark* not_applied_;
+    QString applied_text_;
     Controls controls_;
     TabPages* pages_ = nullptr;
-    data::FieldArray<Show> shows_;
-    data::FieldArray<std::vector<Mark*>> marks_;
+    data::FieldArray<Bound> bound_;
     std::vector<std::unique_ptr<OptionGroup>> groups_;
     std::vector<Entry> entries_;
 };

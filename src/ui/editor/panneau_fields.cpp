@@ -44,8 +44,11 @@ Panneau::Show Panneau::bind(const Field& field) {
     return {};
 }
 
-void Panneau::mark(const Field& field, QWidget& control) {
-    marks_[field.number].push_back(
+void Panneau::adopt(const Field& field, QWidget& control) {
+    auto& bound = bound_[field.number];
+    if (bound.name.isEmpty())
+        bound.name = control.accessibleName();
+    bound.marks.push_back(
         new Mark(control, base::own_text(session_.language, shell::Text::differing_placeholder),
                  [this, &field] { return differing_tip(session_, field); }));
 }
@@ -55,12 +58,12 @@ Panneau::Show Panneau::bind_text(const Field& field) {
     const auto store = [this, &text, &field] {
         const std::string entered = text.bytes();
         text.show_stored(entered);
-        write(entered, field);
+        write(entered, field, text.lost_characters());
     };
     connect(&text, &EntryField::entered, this, store);
     connect(&text, &EntryField::left, this, store);
     entries_.push_back({field.number, &text, store, store, [&text] { return text.bytes(); }});
-    mark(field, text);
+    adopt(field, text);
     return [&text](const MergedValue& value) { text.show_bytes(value.text); };
 }
 
@@ -68,8 +71,10 @@ Panneau::Show Panneau::bind_slider(const Field& field) {
     const NumericField& numeric = numeric_field(field.number);
     auto& text = controls_.get<EntryField>(from_utf8(field.control));
     auto& slider = controls_.get<QSlider>(from_utf8(numeric.slider));
-    auto* entry = new NumericEntry(
-        numeric, text, slider, [this, &field](const std::string& value) { write(value, field); });
+    auto* entry =
+        new NumericEntry(numeric, text, slider, [this, &field, &text](const std::string& value) {
+            write(value, field, text.lost_characters());
+        });
     connect(entry, &NumericEntry::refused, this, [this, &numeric] { warn(numeric); });
     connect(entry, &NumericEntry::refused_when_left, this, [this, &numeric, &text] {
         const bool is_in_panel = isAncestorOf(QApplication::focusWidget());
@@ -77,8 +82,8 @@ Panneau::Show Panneau::bind_slider(const Field& field) {
     });
     entries_.push_back({field.number, &text, [entry] { entry->enter(); },
                         [entry] { entry->store(); }, [entry] { return entry->stored_text(); }});
-    mark(field, text);
-    mark(field, slider);
+    adopt(field, text);
+    adopt(field, slider);
     return [entry](const MergedValue& value) { entry->show(value.text); };
 }
 
@@ -94,11 +99,11 @@ Panneau::Show Panneau::bind_group(const Field& field) {
         }
         option.setText(base::caption_text(entries[n].text));
         group.add(option, entries[n].code, [this, &field](const std::string& code) {
-            choose(session_.provinces, session_.selection, field, code);
+            tell(field, choose(session_.provinces, session_.selection, field, code), code);
             show_field(field);
         });
     }
-    mark(field, group.frame());
+    adopt(field, group.frame());
     return [&group](const MergedValue& value) { group.show(value.text); };
 }
 
@@ -113,7 +118,7 @@ Panneau::Show Panneau::bind_list(const Field& field) {
     connect(&list, &QComboBox::activated, this, [this, &list, entries, items, &field] {
         write(shell::code_of_text(entries, items, to_bytes(list.currentData().toString())), field);
     });
-    mark(field, list);
+    adopt(field, list);
     return [&list, entries](const MergedValue& value) {
         const bool is_common = value.state == MergedValue::State::common;
         list.setCurrentIndex(is_common ? shell::index_of_code(entries, value.text) : -1);
@@ -126,11 +131,11 @@ Panneau::Show Panneau::bind_box(const Field& field) {
     if (field.list_entry < entries.size())
         box.setText(base::caption_text(entries[field.list_entry].text));
     connect(&box, &QAbstractButton::pressed, this, [this, &box, &field] {
-        changement(session_.provinces, session_.selection,
-                   value_after_press(field, box.isChecked()), field.number);
+        const auto value = value_after_press(field, box.isChecked());
+        tell(field, changement(session_.provinces, session_.selection, value, field.number), value);
         show_field(field);
     });
-    mark(field, box);
+    adopt(field, box);
     return
         [&box, &field](const MergedValue& value) { box.setChecked(is_checked(field, value.text)); };
 }
@@ -141,7 +146,7 @@ Panneau::Show Panneau::bind_label(const Field& field) {
         connect(&controls_.get<VariantLabel>(from_utf8(field.control)), &VariantLabel::clicked,
                 this, [this, &label, &field] { write(to_bytes(label.text()), field); });
     }
-    mark(field, label);
+    adopt(field, label);
     return [&label](const MergedValue& value) { label.setText(to_qstring(value.text)); };
 }
 

@@ -149,7 +149,7 @@ void Form1::move(const QMouseEvent& event) {
     if (event.buttons() != Qt::NoButton)
         return;
     if (const auto pointed_at = id_map_point(event.position()))
-        point_at(pointed_at->identifier);
+        point_at(pointed_at->identifier, event.position());
 }
 
 void Form1::release(const QMouseEvent& event) {
@@ -223,13 +223,13 @@ void Form1::update_shown(const QRect& changed) {
     }
 }
 
-void Form1::point_at(int province) {
+void Form1::point_at(int province, const QPointF& position) {
     const int before = std::exchange(pointed_province_, province);
     if (before != province && session_.mode != Mode::normal) {
         update_shown(overlay_.bounds(before));
         update_shown(overlay_.bounds(province));
     }
-    emit pointed(province);
+    emit pointed(province, position);
 }
 
 std::optional<Form1::IdMapPoint> Form1::id_map_point(const QPointF& position) {

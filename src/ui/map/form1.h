@@ -49,8 +49,8 @@ class Form1 : public QWidget {
     void graphics_changed();
 
   signals:
-    /// The pointer moved over the province while no button was held.
-    void pointed(int province);
+    /// The pointer moved over the province while no button was held; where, in pixels of the map.
+    void pointed(int province, const QPointF& position);
     /// The identifier was clicked in normal mode: to be added to the selection, or to replace it.
     /// `place` is the point and its colour, as the place of an error for one above 2018.
     void province_clicked(int identifier, bool add, const std::string& place);
@@ -88,7 +88,7 @@ class Form1 : public QWidget {
     void select(const IdMapPoint& clicked, ShiftState shift);
     void enter_position(const QMouseEvent& event, int province);
     void update_shown(const QRect& changed);
-    void point_at(int province);
+    void point_at(int province, const QPointF& position);
     std::optional<IdMapPoint> id_map_point(const QPointF& position);
     void work_out_dots();
     void show_foreign_point(const ForeignPoint& point);

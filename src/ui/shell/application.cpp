@@ -27,6 +27,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
         const bool taken = QApplication::notify(receiver, event);
         if (!session_.unattended)
             copy_timer_.look();
+        after_event();
         return taken;
     } catch (const std::exception& error) {
         end_with_error(error);

@@ -38,6 +38,8 @@ class Application : public QApplication {
 
     RecoveryCopies& copies() { return copies_; }
     CopyTimer& copy_timer() { return copy_timer_; }
+    /// Runs after every event.
+    std::function<void()> after_event = [] {};
 
     /// Takes into the table what was typed and not yet entered; runs before every recovery copy.
     std::function<void()> keep_typed_text = [] {};

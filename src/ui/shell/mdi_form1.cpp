@@ -6,6 +6,7 @@
 #include "base/shown_text.h"
 #include "base/stored_path.h"
 #include "editor/panneau.h"
+#include "shell/etat.h"
 #include "shell/menus.h"
 #include "shell/notice.h"
 
@@ -122,6 +123,7 @@ void MDIForm1::build_workspace() {
     row->addWidget(workspace_, 1);
     row->addWidget(panel_);
     setCentralWidget(middle);
+    connect(panel_, &editor::Panneau::told, this, &MDIForm1::tell);
     connect(panel_, &editor::Panneau::selection_entered, this, [this] { apply_selection(); });
     auto* to_selection = new QShortcut(QKeySequence(QStringLiteral("Ctrl+L")), this);
     to_selection->setContext(Qt::ApplicationShortcut);
@@ -135,9 +137,17 @@ void MDIForm1::build_status_bar() {
     notice_ = new Notice(statusBar());
     pointer_text_ = new QLabel(statusBar());
     pointer_text_->setObjectName(QStringLiteral("Bar(2)"));
-    // A permanent widget is never covered; the notice takes the room that the others leave.
+    etat_ = new Etat(session_, statusBar());
+    etat_->look();
+    pointed_name_ = new base::ElidedLabel(statusBar());
+    pointed_name_->setObjectName(QStringLiteral("nom"));
+    // A permanent widget is never covered; three share the room that the two others leave.
     statusBar()->addPermanentWidget(mode_text_);
-    statusBar()->addPermanentWidget(notice_, 1);
+    for (QLabel* label :
+         {static_cast<QLabel*>(notice_), static_cast<QLabel*>(etat_), pointed_name_}) {
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        statusBar()->addPermanentWidget(label, label == notice_ ? 4 : 3);
+    }
     statusBar()->addPermanentWidget(pointer_text_);
     pointer_text_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("id = 00000")));
 }

@@ -35,6 +35,7 @@ namespace shell {
 
 class Form_controle;
 class Form_modifications;
+class Etat;
 class Notice;
 class RecoveryCopies;
 
@@ -86,6 +87,9 @@ class MDIForm1 : public QMainWindow {
     /// Shows what happened in the status bar for a while.
     void tell(const QString& notice);
 
+    /// Returns the part of the status bar that is to look after every event whether it still holds.
+    Etat& etat() const { return *etat_; }
+
   protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -129,6 +133,7 @@ class MDIForm1 : public QMainWindow {
     map::Form1* map_window();
     void make_map_window();
     void fit_map_window();
+    void show_pointed(int province, const QPointF& position);
 
     Session& session_;
     RecoveryCopies& copies_;
@@ -145,6 +150,8 @@ class MDIForm1 : public QMainWindow {
     QPointer<map::Form1> map_;
     QRect fitted_; // where the map window was put last; its frame's place in the workspace
     QLabel* mode_text_ = nullptr;
+    Etat* etat_ = nullptr;
+    QLabel* pointed_name_ = nullptr;
     Notice* notice_ = nullptr;
     QLabel* pointer_text_ = nullptr;
 };

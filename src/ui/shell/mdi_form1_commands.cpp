@@ -191,6 +191,7 @@ void MDIForm1::apply_selection(const std::optional<data::RunTimeError>& known_er
                            session_.language.message(data::Message::malformed_selection));
     try {
         session_.selection.apply(text);
+        panel_->selection_applied();
     } catch (const data::RunTimeError& error) {
         panel_->forget_shown(); // it still shows what was selected before
         base::show_error(session_, this, known_error.value_or(error));

@@ -1,6 +1,9 @@
 #include "base/qt_text.h"
+#include "base/shown_text.h"
 #include "base/stored_path.h"
+#include "data/numbers.h"
 #include "editor/panneau.h"
+#include "map/position_entry.h"
 #include "shell/mdi_form1.h"
 
 #include <QAction>
@@ -56,9 +59,7 @@ void MDIForm1::make_map_window() {
     map_frame_ = workspace_->addSubWindow(map.release());
     map_frame_->setAttribute(Qt::WA_DeleteOnClose);
     map_frame_->setFocusPolicy(Qt::ClickFocus); // Tab is to reach the map, not its frame as well
-    connect(map_, &map::Form1::pointed, this, [this](int province) {
-        pointer_text_->setText(QStringLiteral("id = %1").arg(province));
-    });
+    connect(map_, &map::Form1::pointed, this, &MDIForm1::show_pointed);
     connect(map_, &map::Form1::province_clicked, this, &MDIForm1::select_clicked);
     connect(map_, &map::Form1::tabbed, this, [this](bool forward) { focusNextPrevChild(forward); });
     connect(map_, &map::Form1::problem, this, &MDIForm1::tell);
@@ -66,6 +67,23 @@ void MDIForm1::make_map_window() {
     check_map(map::ShownMap::map_1);
     map_frame_->show();
     fit_map_window();
+}
+
+void MDIForm1::show_pointed(int province, const QPointF& position) {
+    pointer_text_->setText(QStringLiteral("id = %1").arg(province));
+    const QString name = province > data::last_province
+                             ? QString()
+                             : base::caption_text(session_.provinces.cell(
+                                   province, data::table_column(data::column::name)));
+    QString coordinates;
+    try {
+        const auto x = map::stored_x(session_.maps, position.x());
+        const auto y = map::stored_y(session_.maps, data::to_int16(position.y(), {}));
+        coordinates = QStringLiteral("(%1, %2)").arg(base::to_qstring(x), base::to_qstring(y));
+    } catch (const data::RunTimeError&) {
+        // A click there would store nothing.
+    }
+    pointed_name_->setText(QStringLiteral("%1 %2").arg(name, coordinates).trimmed());
 }
 
 void MDIForm1::show_map(map::ShownMap shown) {

@@ -1,0 +1,45 @@
+#include "shell/etat.h"
+
+#include "base/captions.h"
+#include "map/lacking_positions.h"
+#include "shell/place_check.h"
+
+#include <QStringList>
+
+namespace shell {
+
+Etat::Etat(const Session& session, QWidget* parent)
+    : ElidedLabel(parent), session_(session), sea_code_(sea_code(session.language)) {
+    setObjectName(QStringLiteral("état"));
+}
+
+void Etat::look() {
+    const State now{session_.selection.version(), session_.provinces.version(),
+                    session_.provinces.has_unsaved_changes(), session_.mode};
+    if (shown_ == now)
+        return;
+    shown_ = now;
+    setText(words());
+}
+
+QString Etat::words() const {
+    const auto& language = session_.language;
+    const auto selected = static_cast<int>(session_.selection.provinces().size());
+    QStringList parts;
+    // What matters most in the mode comes first: the end may not fit.
+    if (session_.mode != map::Mode::normal) {
+        const int lacking = map::lacking_positions(session_.provinces, session_.mode, sea_code_);
+        parts += base::own_text(language, Text::etat_lacking, QString::number(lacking));
+    }
+    if (selected == 0)
+        parts += base::own_text(language, Text::etat_none_selected);
+    else
+        parts +=
+            base::own_text(language, selected == 1 ? Text::etat_one_selected : Text::etat_selected,
+                           QString::number(selected));
+    if (session_.provinces.has_unsaved_changes())
+        parts += base::own_text(language, Text::etat_unsaved);
+    return parts.join(QStringLiteral(", "));
+}
+
+} // namespace shell

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "shell/elided_label.h"
+#include "shell/session.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace shell {
+
+/// The part of the status bar that tells how many provinces are selected, whether changes are
+/// unsaved, and how many provinces lack the position that the mode places.
+class Etat : public ElidedLabel {
+  public:
+    /// The session must outlive the label.
+    Etat(const Session& session, QWidget* parent);
+
+    /// Looks whether something of this has changed; cheap where nothing has.
+    void look();
+
+  private:
+    struct State {
+        std::uint64_t selection_version;
+        std::uint64_t provinces_version;
+        bool has_unsaved_changes;
+        map::Mode mode;
+        friend bool operator==(const State&, const State&) = default;
+    };
+
+    QString words() const;
+
+    const Session& session_;
+    std::string sea_code_;
+    std::optional<State> shown_;
+};
+
+} // namespace shell
