@@ -9,7 +9,7 @@
 namespace shell {
 
 Etat::Etat(const Session& session, QWidget* parent)
-    : ElidedLabel(parent), session_(session), sea_code_(sea_code(session.language)) {
+    : base::ElidedLabel(parent), session_(session), sea_code_(sea_code(session.language)) {
     setObjectName(QStringLiteral("état"));
 }
 

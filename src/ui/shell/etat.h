@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/elided_label.h"
+#include "base/elided_label.h"
 #include "shell/session.h"
 
 #include <cstdint>
@@ -11,7 +11,7 @@ namespace shell {
 
 /// The part of the status bar that tells how many provinces are selected, whether changes are
 /// unsaved, and how many provinces lack the position that the mode places.
-class Etat : public ElidedLabel {
+class Etat : public base::ElidedLabel {
   public:
     /// The session must outlive the label.
     Etat(const Session& session, QWidget* parent);
