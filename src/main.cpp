@@ -6,6 +6,7 @@
 #include "shell/command_line.h"
 #include "shell/etat.h"
 #include "shell/mdi_form1.h"
+#include "shell/qt_texts.h"
 #include "shell/start_up.h"
 #include "shell/termination.h"
 
@@ -89,7 +90,9 @@ int run_program(shell::Application& application, shell::Session& session,
         line.folder.value_or(base::stored_path(QApplication::applicationDirPath()));
     session.unattended = line.screenshot.has_value();
 
-    shell::MDIForm1 frame(session, shell::start_up(session));
+    const shell::Run run = shell::start_up(session);
+    shell::install_qt_texts(session.language);
+    shell::MDIForm1 frame(session, run);
     application.keep_typed_text = [kept = QPointer(&frame)] {
         if (kept)
             kept->keep_typed_text();

@@ -12,6 +12,7 @@ constexpr std::chrono::seconds shown_for(15);
 
 Notice::Notice(QWidget* parent) : ElidedLabel(parent) {
     setObjectName(QStringLiteral("notice"));
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     time_.setObjectName(QStringLiteral("time"));
     time_.setSingleShot(true);
     time_.setInterval(shown_for);
