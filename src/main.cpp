@@ -4,6 +4,7 @@
 #include "shell/command_line.h"
 #include "shell/etat.h"
 #include "shell/mdi_form1.h"
+#include "shell/qt_texts.h"
 #include "shell/read_report.h"
 #include "shell/start_up.h"
 #include "shell/termination.h"
@@ -82,7 +83,9 @@ int run_program(shell::Application& application, shell::Session& session,
     session.program_folder = program_folder(line);
     session.unattended = line.screenshot.has_value();
 
-    shell::MDIForm1 frame(session, application.copies(), shell::start_up(session));
+    const shell::Run run = shell::start_up(session);
+    shell::install_qt_texts(session.language);
+    shell::MDIForm1 frame(session, application.copies(), run);
     application.keep_typed_text = [kept = QPointer(&frame)] {
         if (kept)
             kept->keep_typed_text();

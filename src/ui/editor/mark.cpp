@@ -73,7 +73,7 @@ void Mark::paintEvent(QPaintEvent*) {
     painter.setPen(QPen(tint, 1, Qt::DashLine));
     tint.setAlpha(tint_opacity);
     painter.setBrush(tint);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.drawRect(rect().adjusted(1, 1, -2, -2)); // beside the frame that shows the focus
 }
 
 } // namespace editor

@@ -39,6 +39,9 @@ class OptionGroup {
     void add(OptionButton& option, const std::string& code,
              const std::function<void(const std::string& code)>& chosen);
 
+    /// Makes the first option the one that the Tab key reaches, until another one is on or chosen.
+    void make_reachable() const { options_.front().button->take_tab_stop(); }
+
     /// Returns the frame around the options. There must be one.
     QWidget& frame() const { return *options_.front().button->parentWidget(); }
 

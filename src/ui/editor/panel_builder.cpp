@@ -81,26 +81,51 @@ class TabBuilder {
     /// A row with the block's caption at its start, still without controls.
     QHBoxLayout* captioned_row(const Block& block) const {
         auto* row = new QHBoxLayout;
-        auto* label = new QLabel(caption(block), frame_);
+        auto* label = new QLabel(frame_);
+        label->setTextFormat(Qt::PlainText);
+        label->setText(caption(block));
         label->setObjectName(object_name(block.caption_key));
         label->setProperty(aligned_with, "label");
         row->addWidget(label);
         return row;
     }
 
+    /// Adds a control to the row; the caption's letter leads to the first one.
+    static void add_to_row(QHBoxLayout& row, QWidget* control) {
+        if (row.count() == 1)
+            static_cast<QLabel*>(row.itemAt(0)->widget())->setBuddy(control);
+        row.addWidget(control);
+    }
+
     /// Returns a new control of the block, under the name and captioned for a screen reader.
     template <typename Control>
     Control* made(const Block& block, std::string_view name) const {
         auto* control = new Control(frame_);
-        control->setAccessibleName(caption(block));
+        control->setAccessibleName(member_name(block, name));
         controls_.add(from_utf8(name), control);
         return control;
+    }
+
+    /// Returns what the caption calls the block's control of that name. Where the caption names as
+    /// many in parentheses as there are, it is one of these; else they are counted.
+    QString member_name(const Block& block, std::string_view name) const {
+        const QString all = base::without_marks(caption(block));
+        const auto members = names(block);
+        if (members.size() == 1 || block.kind == BlockKind::numeric)
+            return all;
+        const auto place = std::find(members.begin(), members.end(), name) - members.begin();
+        const auto opening = all.lastIndexOf('(');
+        const auto closing = all.lastIndexOf(')');
+        const QStringList words = all.mid(opening + 1, closing - opening - 1).split(',');
+        if (opening >= 0 && words.size() == static_cast<qsizetype>(members.size()))
+            return all.left(opening) + words[place].trimmed();
+        return QStringLiteral("%1 %2").arg(all).arg(place + 1);
     }
 
     QLayout* field(const Block& block) const {
         auto* row = captioned_row(block);
         for (const auto name : names(block))
-            row->addWidget(made<EntryField>(block, name));
+            add_to_row(*row, made<EntryField>(block, name));
         if (!block.unit.empty())
             row->addWidget(new QLabel(from_utf8(block.unit), frame_));
         return row;
@@ -110,7 +135,7 @@ class TabBuilder {
         auto* row = captioned_row(block);
         auto* field = made<EntryField>(block, block.controls[0]);
         field->setFixedWidth(short_field_width);
-        row->addWidget(field);
+        add_to_row(*row, field);
         auto* slider = made<QSlider>(block, block.controls[1]);
         slider->setOrientation(Qt::Horizontal);
         slider->setRange(0, slider_end);
@@ -124,16 +149,16 @@ class TabBuilder {
         auto* list = made<QComboBox>(block, block.controls[0]);
         list->setFocusPolicy(Qt::StrongFocus);
         list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        row->addWidget(list, 1);
+        add_to_row(*row, list);
+        row->setStretch(1, 1);
         return row;
     }
 
     QLayout* positions(const Block& block) const {
         auto* row = captioned_row(block);
         for (const auto name : names(block)) {
-            auto* value =
-                name.starts_with("dessin_c") ? new VariantLabel(frame_) : new QLabel(frame_);
-            controls_.add(from_utf8(name), value);
+            QLabel* value = name.starts_with("dessin_c") ? made<VariantLabel>(block, name)
+                                                         : made<QLabel>(block, name);
             value->setTextFormat(Qt::PlainText);
             value->setFrameStyle(QFrame::Panel | QFrame::Sunken);
             value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

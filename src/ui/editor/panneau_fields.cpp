@@ -1,5 +1,6 @@
 #include "base/captions.h"
 #include "base/qt_text.h"
+#include "data/numbers.h"
 #include "editor/coded_choices.h"
 #include "editor/differing_tip.h"
 #include "editor/entry_field.h"
@@ -71,6 +72,10 @@ Panneau::Show Panneau::bind_slider(const Field& field) {
     const NumericField& numeric = numeric_field(field.number);
     auto& text = controls_.get<EntryField>(from_utf8(field.control));
     auto& slider = controls_.get<QSlider>(from_utf8(numeric.slider));
+    for (QWidget* control : {static_cast<QWidget*>(&text), static_cast<QWidget*>(&slider)})
+        control->setToolTip(base::own_text(session_.language, shell::Text::range_tip,
+                                           QStringLiteral("0"),
+                                           to_qstring(data::to_text(numeric.highest))));
     auto* entry =
         new NumericEntry(numeric, text, slider, [this, &field, &text](const std::string& value) {
             write(value, field, text.lost_characters());
@@ -103,6 +108,7 @@ Panneau::Show Panneau::bind_group(const Field& field) {
             show_field(field);
         });
     }
+    group.make_reachable();
     adopt(field, group.frame());
     return [&group](const MergedValue& value) { group.show(value.text); };
 }
@@ -130,6 +136,7 @@ Panneau::Show Panneau::bind_box(const Field& field) {
     const auto entries = session_.language.list(field.list_prefix);
     if (field.list_entry < entries.size())
         box.setText(base::caption_text(entries[field.list_entry].text));
+    box.setAccessibleName(base::without_marks(box.text()));
     connect(&box, &QAbstractButton::pressed, this, [this, &box, &field] {
         const auto value = value_after_press(field, box.isChecked());
         tell(field, changement(session_.provinces, session_.selection, value, field.number), value);
@@ -143,11 +150,16 @@ Panneau::Show Panneau::bind_box(const Field& field) {
 Panneau::Show Panneau::bind_label(const Field& field) {
     auto& label = controls_.get<QLabel>(from_utf8(field.control));
     if (field.display == Display::variant) {
+        label.setToolTip(base::own_text(session_.language, shell::Text::variant_tip));
         connect(&controls_.get<VariantLabel>(from_utf8(field.control)), &VariantLabel::clicked,
                 this, [this, &label, &field] { write(to_bytes(label.text()), field); });
     }
     adopt(field, label);
-    return [&label](const MergedValue& value) { label.setText(to_qstring(value.text)); };
+    return [&label, name = label.accessibleName()](const MergedValue& value) {
+        label.setText(to_qstring(value.text));
+        // A label that has a name of its own is read by that alone.
+        label.setAccessibleName(value.text.empty() ? name : name + ": " + label.text());
+    };
 }
 
 } // namespace editor

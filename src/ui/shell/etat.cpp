@@ -6,11 +6,19 @@
 
 #include <QStringList>
 
+#include <algorithm>
+
 namespace shell {
 
 Etat::Etat(const Session& session, QWidget* parent)
     : base::ElidedLabel(parent), session_(session), sea_code_(sea_code(session.language)) {
     setObjectName(QStringLiteral("état"));
+}
+
+QSize Etat::sizeHint() const {
+    constexpr int part = 5;
+    const QSize whole = ElidedLabel::sizeHint();
+    return {std::min(whole.width(), parentWidget()->width() / part), whole.height()};
 }
 
 void Etat::look() {

@@ -16,6 +16,11 @@ class Etat : public base::ElidedLabel {
     /// The session must outlive the label.
     Etat(const Session& session, QWidget* parent);
 
+    /// Returns the size of the words, but at most a part of the status bar: the label insists on
+    /// that, and what lies beyond is elided where there is no more room.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
     /// Looks whether something of this has changed; cheap where nothing has.
     void look();
 

@@ -31,6 +31,7 @@ namespace {
 
 constexpr qsizetype most_languages = 10;
 constexpr QSize first_size(1280, 720);
+constexpr int name_width = 20; // characters
 constexpr std::array position_items = {"ville_menu", "armées_menu", "manuf_menu", "port_menu",
                                        "dessin_menu"};
 
@@ -141,13 +142,12 @@ void MDIForm1::build_status_bar() {
     etat_->look();
     pointed_name_ = new base::ElidedLabel(statusBar());
     pointed_name_->setObjectName(QStringLiteral("nom"));
-    // A permanent widget is never covered; three share the room that the two others leave.
+    // A permanent widget is never covered; notice and state share the room that the others leave.
+    pointed_name_->setFixedWidth(fontMetrics().averageCharWidth() * name_width);
     statusBar()->addPermanentWidget(mode_text_);
-    for (QLabel* label :
-         {static_cast<QLabel*>(notice_), static_cast<QLabel*>(etat_), pointed_name_}) {
-        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        statusBar()->addPermanentWidget(label, label == notice_ ? 4 : 3);
-    }
+    statusBar()->addPermanentWidget(notice_, 1);
+    statusBar()->addPermanentWidget(etat_, 1);
+    statusBar()->addPermanentWidget(pointed_name_);
     statusBar()->addPermanentWidget(pointer_text_);
     pointer_text_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("id = 00000")));
 }

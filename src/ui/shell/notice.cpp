@@ -13,6 +13,7 @@ constexpr int distance = 12; // pixels, to the texts beside it
 
 Notice::Notice(QWidget* parent) : base::ElidedLabel(parent) {
     setObjectName(QStringLiteral("notice"));
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     setContentsMargins(distance, 0, distance, 0);
     time_.setObjectName(QStringLiteral("time"));
     time_.setSingleShot(true);
