@@ -16,7 +16,8 @@ QString to_qstring(std::string_view bytes);
 /// the code page.
 std::string to_bytes(const QString& text);
 
-/// Returns whether the code page has all characters of the text, letters and their accents composed.
+/// Returns whether the code page has all characters of the text, letters and their accents
+/// composed.
 bool page_holds(const QString& text);
 
 /// Returns the text of a literal in UTF-8, the encoding of the sources.

@@ -54,6 +54,11 @@ void OptionGroup::add(OptionButton& option, const std::string& code,
 }
 
 void OptionGroup::show(std::string_view value) const {
+    const bool is_used = std::any_of(options_.begin(), options_.end(), [](const Option& option) {
+        return option.button->hasFocus();
+    });
+    if (!is_used)
+        make_reachable(); // by its first option, unless one is on
     for (const auto& option : options_) {
         const bool on = !value.empty() && data::equal_ignoring_case(option.code, value);
         option.button->setChecked(on);
