@@ -14,7 +14,7 @@ namespace editor {
 struct DifferingValues {
     struct Value {
         std::string text; // in the spelling of the first province that holds it
-        int provinces;
+        int provinces = 0;
     };
     int count = 0;
     std::vector<Value>

@@ -21,6 +21,7 @@ namespace shell {
 namespace {
 
 constexpr QSize initial_size(760, 420);
+constexpr int row_margin = 6;      // pixels above and below a row's text, together
 constexpr int widest_column = 320; // pixels, when the rows are shown first
 
 /// A list in which Enter presses none of the dialog's buttons.
@@ -70,6 +71,7 @@ TableForm::TableForm(const Kind& kind, const Session& session, QWidget* owner)
     list_->setTabKeyNavigation(false);
     list_->setWordWrap(false);
     list_->verticalHeader()->hide();
+    list_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + row_margin);
     list_->horizontalHeader()->setStretchLastSection(true);
     count_->setObjectName(QStringLiteral("count"));
 

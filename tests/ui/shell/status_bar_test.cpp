@@ -45,7 +45,7 @@ TEST_F(StatusBar, TellsHowManyAreSelectedAndWhetherChangesAreUnsaved) {
     select(QStringLiteral("5-60"));
     enter("nom_province", QStringLiteral("x"));
     EXPECT_EQ(told("état"), "56 provinces selected, unsaved changes");
-    save_as(QStringLiteral("saved.csv"));
+    save_as(folder.native(QStringLiteral("saved.csv")));
     EXPECT_EQ(told("état"), "56 provinces selected");
 
     press_key(Qt::Key_F3);
