@@ -9,7 +9,7 @@
 #include "shell/start_up.h"
 #include "shell/termination.h"
 
-#include <QPointer>
+#include <QScopeGuard>
 #include <QScreen>
 
 #include <cstdio>
@@ -86,19 +86,17 @@ int run_program(shell::Application& application, shell::Session& session,
     const shell::Run run = shell::start_up(session);
     shell::install_qt_texts(session.language);
     shell::MDIForm1 frame(session, application.copies(), run);
-    application.keep_typed_text = [kept = QPointer(&frame)] {
-        if (kept)
-            kept->keep_typed_text();
-    };
-    application.copies().set_typed_texts([kept = QPointer(&frame)] {
-        return kept ? kept->typed_texts() : std::vector<editor::TypedText>();
+    application.keep_typed_text = [&frame] { frame.keep_typed_text(); };
+    application.copies().set_typed_texts([&frame] { return frame.typed_texts(); });
+    application.after_event = [&frame] { frame.etat().look(); };
+    // Events still come while the frame is being destroyed.
+    const auto frame_ends = qScopeGuard([&application] {
+        application.keep_typed_text = [] {};
+        application.copies().set_typed_texts({});
+        application.after_event = [] {};
     });
     QObject::connect(&application.copy_timer(), &shell::CopyTimer::failed, &frame,
                      &shell::MDIForm1::tell);
-    application.after_event = [etat = QPointer(&frame.etat())] {
-        if (etat)
-            etat->look();
-    };
     const shell::Termination termination([&](int status) { application.terminate(status); },
                                          [&] { application.save_unsaved(); });
     if (line.screenshot) {

@@ -39,6 +39,7 @@ class MainFrame : public testing::Test {
     }
     ~MainFrame() override {
         frame.reset();
+        application.after_event = [] {};
         application.copies().remove_own();
         application.treats_errors = false;
     }
@@ -50,9 +51,9 @@ class MainFrame : public testing::Test {
     void start() {
         frame = std::make_unique<shell::MDIForm1>(session, application.copies(),
                                                   shell::start_up(session));
-        application.after_event = [etat = QPointer(&frame->etat())] {
-            if (etat)
-                etat->look();
+        application.after_event = [this] {
+            if (frame) // no more while it is being destroyed
+                frame->etat().look();
         };
         frame->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(frame.get()));
