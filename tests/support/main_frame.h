@@ -31,6 +31,7 @@ class MainFrame : public testing::Test {
   protected:
     MainFrame() {
         session = shell::Session();
+        application.copies().remove_own(); // the timer may have made one since the last test
         session.program_folder = folder.path();
         application.ends.clear();
         application.treats_errors = true;
