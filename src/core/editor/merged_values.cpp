@@ -22,14 +22,17 @@ MergedValue merged_value(const data::ProvinceTable& table, const Selection& sele
                          data::FieldNumber field) {
     const auto column = table.column(data::table_column(field));
     const std::string* common = nullptr;
+    bool is_unseen = true;
     for (const int province : selection.provinces()) {
         const std::string& cell = column[static_cast<std::size_t>(province)];
-        if (!common || counts_as_unseen(*common))
+        if (is_unseen) {
             common = &cell;
-        else if (!data::equal_ignoring_case(*common, cell))
+            is_unseen = counts_as_unseen(cell);
+        } else if (!data::equal_ignoring_case(*common, cell)) {
             return {State::differing};
+        }
     }
-    if (!common || counts_as_unseen(*common))
+    if (is_unseen)
         return {State::none};
     return counts_as_differing(*common) ? MergedValue{State::differing}
                                         : MergedValue{State::common, *common};
