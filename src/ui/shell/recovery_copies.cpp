@@ -12,8 +12,6 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <array>
-#include <optional>
 #include <utility>
 
 namespace shell {

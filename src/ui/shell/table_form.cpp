@@ -119,8 +119,4 @@ std::vector<std::size_t> TableForm::chosen() const {
     return rows;
 }
 
-void TableForm::choose(std::size_t row) {
-    list_->setCurrentIndex(sorted_->mapFromSource(model_->index(static_cast<int>(row), 0)));
-}
-
 } // namespace shell

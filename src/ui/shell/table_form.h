@@ -43,8 +43,6 @@ class TableForm : public QDialog {
     /// Returns the chosen rows, as numbers into what was shown last.
     std::vector<std::size_t> chosen() const;
 
-    void choose(std::size_t row);
-
   signals:
     /// A row was double-clicked, or Enter was pressed on it.
     void activated(std::size_t row);
@@ -53,7 +51,6 @@ class TableForm : public QDialog {
     /// Adds a button in front of the one that closes the dialog.
     QPushButton* add_button(const char* name, Text caption);
     const Session& session() const { return session_; }
-    QTableView* list() const { return list_; }
 
   private:
     const Session& session_;
