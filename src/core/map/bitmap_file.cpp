@@ -159,7 +159,12 @@ void decode_pixels(const BitmapLayout& layout, std::span<const char> bytes, int 
             return palette[byte_at(bytes, at / per_byte) >> shift & mask];
         });
     } else if (layout.bits_per_pixel == 24) {
-        fill(pixels, 0, 3 * stride, [=](std::size_t at) { return opaque | read_24(bytes, at); });
+        if (pixels.empty())
+            return;
+        // A byte too many is read at once with the others, and lost in what makes it opaque.
+        fill(pixels.first(pixels.size() - 1), 0, 3 * stride,
+             [=](std::size_t at) { return opaque | read_32(bytes, at); });
+        pixels.back() = opaque | read_24(bytes, 3 * stride * (pixels.size() - 1));
     } else if (layout.bits_per_pixel == 16) {
         fill(pixels, 0, 2 * stride,
              [&](std::size_t at) { return from_channels(read_16(bytes, at), layout.channels); });

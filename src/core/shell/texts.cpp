@@ -36,6 +36,10 @@ constexpr data::IndexedArray<Text, TextInfo, text_count> texts = {{{
     // Menus
     {Text::menu_recuperer, "menu_recuperer", "&Recovery copies and backups..."},
     {Text::menu_reenregistrer, "menu_reenregistrer", "Save &again"},
+    {Text::menu_zoom_plus, "menu_zoom_plus", "Zoom i&n"},
+    {Text::menu_zoom_moins, "menu_zoom_moins", "Zoom &out"},
+    {Text::menu_zoom_1, "menu_zoom_1", "&Actual size"},
+    {Text::menu_zoom_tout, "menu_zoom_tout", "&Whole map"},
     {Text::menu_recherche, "menu_recherche", "Searc&h"},
     {Text::menu_verifier, "menu_verifier", "&Check..."},
     {Text::menu_modifications, "menu_modifications", "C&hanges..."},

@@ -35,6 +35,10 @@ enum class Text {
     // Menus
     menu_recuperer,
     menu_reenregistrer,
+    menu_zoom_plus,
+    menu_zoom_moins,
+    menu_zoom_1,
+    menu_zoom_tout,
     menu_recherche,
     menu_verifier,
     menu_modifications,

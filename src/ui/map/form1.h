@@ -1,6 +1,5 @@
 #pragma once
 
-#include "data/indexed_array.h"
 #include "map/map_image.h"
 #include "map/overlay_preview.h"
 #include "map/position_entry.h"
@@ -18,8 +17,7 @@
 
 namespace map {
 
-class MapScrollArea;
-class Picture;
+class MapView;
 
 /// The map window: shows one of the maps, and turns clicks on it into selections and positions.
 class Form1 : public QWidget {
@@ -35,6 +33,9 @@ class Form1 : public QWidget {
 
     bool has_map_2() const { return map_2_.has_value(); }
     const MapImage& id_map() const { return id_map_; }
+
+    /// Returns what scrolls and zooms the maps.
+    MapView& view() const { return *view_; }
 
     /// Makes the map the visible one; without a map 2 it cannot be chosen.
     void show_map(ShownMap which);
@@ -59,17 +60,7 @@ class Form1 : public QWidget {
     /// Tab, or Shift+Tab when not `forward`, is to move the focus out of the map.
     void tabbed(bool forward);
 
-  protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
   private:
-    /// Scrolling by dragging with the middle button.
-    struct Drag {
-        QPoint pointer;  // where the button was pressed on the screen
-        QPoint scrolled; // where the scroll bars stood then
-        bool moved = false;
-    };
-
     /// What the ID map says about a point.
     struct IdMapPoint {
         QPoint point;
@@ -79,20 +70,14 @@ class Form1 : public QWidget {
         std::string as_place() const { return place_on_id_map(point.x(), point.y(), colour); }
     };
 
-    void add_picture(ShownMap which, const char* name, const MapImage& image);
-    void press(const QMouseEvent& event);
-    void move(const QMouseEvent& event);
-    void release(const QMouseEvent& event);
-    void drag_to(const QPoint& pointer);
-    void click(const QMouseEvent& event);
+    void hover(const QPointF& position);
+    void click(const QMouseEvent& event, const QPointF& position);
     void select(const IdMapPoint& clicked, ShiftState shift);
     void enter_position(const QMouseEvent& event, int province);
-    void update_shown(const QRect& changed);
-    void point_at(int province, const QPointF& position);
     std::optional<IdMapPoint> id_map_point(const QPointF& position);
+    QRect shown_graphics(int province) const;
     void work_out_dots();
     void show_foreign_point(const ForeignPoint& point);
-    void draw_dots(QPainter& painter, const QRect& exposed) const;
     void draw_above(QPainter& painter, const QRegion& exposed);
     void tell(const QString& reason);
 
@@ -105,13 +90,10 @@ class Form1 : public QWidget {
     SelectionDots dots_;
     bool foreign_point_reported_ = false;
 
-    MapScrollArea* scroll_area_;
-    QWidget* surfaces_;
-    data::IndexedArray<ShownMap, Picture*, 3> pictures_ = {};
+    MapView* view_;
     QSet<QString> told_; // reasons, since mode, maps or graphics changed
 
-    QPointF pressed_; // pixels
-    std::optional<Drag> drag_;
+    QPointF pressed_; // pixels of the map
     int pointed_province_ = -1;
 };
 

@@ -29,6 +29,23 @@ QSize size_of(const BitmapLayout& layout) {
     return {layout.width, layout.height};
 }
 
+std::span<Pixel> row_of(QImage& image, int row, int width) {
+    return {reinterpret_cast<Pixel*>(image.scanLine(row)), static_cast<std::size_t>(width)};
+}
+
+/// Fills `means` with the means of the pixels 2 i and 2 i + 1 of both rows.
+void mean_of_four(std::span<const Pixel> upper, std::span<const Pixel> lower,
+                  std::span<Pixel> means) {
+    constexpr Pixel every_other_byte = 0x00FF00FF;
+    const auto sum = [&](std::size_t i, unsigned shift) {
+        const auto part = [&](Pixel pixel) { return pixel >> shift & every_other_byte; };
+        return part(upper[i]) + part(upper[i + 1]) + part(lower[i]) + part(lower[i + 1]);
+    };
+    for (std::size_t i = 0; i < means.size(); ++i)
+        means[i] = (sum(2 * i, 0) >> 2 & every_other_byte) | (sum(2 * i, 8) >> 2 & every_other_byte)
+                                                                 << 8;
+}
+
 } // namespace
 
 MapImage::MapImage(std::string_view path)
@@ -139,12 +156,68 @@ bool MapReader::read_row(int y, int first_x, int step, std::span<Pixel> pixels) 
     return readable;
 }
 
-void MapReader::read(const QRect& rectangle, QImage& target) {
-    for (int row = 0; row < rectangle.height(); ++row) {
-        const std::span pixels(reinterpret_cast<Pixel*>(target.scanLine(row)),
-                               static_cast<std::size_t>(rectangle.width()));
-        if (!read_row(rectangle.top() + row, rectangle.left(), 1, pixels))
+/// Reads row y with every pixel as wide as the level shows it.
+bool MapReader::read_enlarged_row(int y, int first_shown_x, ZoomLevel level,
+                                  std::span<Pixel> shown) {
+    if (level.enlargement() == 1)
+        return read_row(y, level.on_map(first_shown_x), level.step(), shown);
+    const int first_x = level.on_map(first_shown_x);
+    const int last_x = level.on_map(first_shown_x + static_cast<int>(shown.size()) - 1);
+    row_.resize(static_cast<std::size_t>(last_x - first_x + 1));
+    const bool readable = read_row(y, first_x, 1, row_);
+    const int offset = first_shown_x - level.shown(first_x);
+    for (std::size_t i = 0; i < shown.size(); ++i)
+        shown[i] = row_[static_cast<std::size_t>(level.on_map(static_cast<int>(i) + offset))];
+    return readable;
+}
+
+/// Reads a row of shown pixels, each the mean of four pixels of the image: two of each of two rows.
+bool MapReader::read_mean_row(int shown_y, int first_shown_x, ZoomLevel level,
+                              std::span<Pixel> shown) {
+    const int half = level.step() / 2;
+    const int y = level.on_map(shown_y);
+    const int x = level.on_map(first_shown_x);
+    const auto read_pairs = [&](int row, std::vector<Pixel>& pixels) {
+        pixels.resize(2 * shown.size());
+        const bool readable = read_row(row, x, half, pixels);
+        if (pixels.back() == no_pixel) // beyond the right edge
+            pixels.back() = pixels[pixels.size() - 2];
+        return readable;
+    };
+    if (!read_pairs(y, row_))
+        return false;
+    const bool has_other = y + half < image_.size_.height() && read_pairs(y + half, other_row_);
+    mean_of_four(row_, has_other ? other_row_ : row_, shown);
+    return true;
+}
+
+void MapReader::read(const QRect& shown, ZoomLevel level, QImage& target) {
+    for (int row = 0; row < shown.height(); ++row) {
+        const int y = shown.top() + row;
+        const auto pixels = row_of(target, row, shown.width());
+        if (row > 0 && level.on_map(y) == level.on_map(y - 1)) {
+            const auto above = row_of(target, row - 1, shown.width());
+            std::copy(above.begin(), above.end(), pixels.begin());
+            continue;
+        }
+        const bool readable = level.step() > 1
+                                  ? read_mean_row(y, shown.left(), level, pixels)
+                                  : read_enlarged_row(level.on_map(y), shown.left(), level, pixels);
+        if (!readable)
             std::fill(pixels.begin(), pixels.end(), unreadable);
+    }
+}
+
+void MapReader::read_samples(const QRect& shown, ZoomLevel level, QImage& target) {
+    for (int row = 0; row < shown.height(); ++row) {
+        const int y = shown.top() + row;
+        const auto pixels = row_of(target, row, shown.width());
+        if (row > 0 && level.on_map(y) == level.on_map(y - 1)) {
+            const auto above = row_of(target, row - 1, shown.width());
+            std::copy(above.begin(), above.end(), pixels.begin());
+        } else {
+            read_enlarged_row(level.on_map(y), shown.left(), level, pixels);
+        }
     }
 }
 

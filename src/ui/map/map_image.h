@@ -2,6 +2,8 @@
 
 #include "map/bitmap_file.h"
 #include "map/identification.h"
+#include "map/strip_reader.h"
+#include "map/zoom_level.h"
 
 #include <QFile>
 #include <QImage>
@@ -41,7 +43,7 @@ class MapImage {
 
 /// One look at an image. Its file is open only for so long, and its header is read each time: other
 /// programs may shorten, replace or delete the file between two looks.
-class MapReader {
+class MapReader : public StripReader {
   public:
     explicit MapReader(const MapImage& image);
 
@@ -55,23 +57,34 @@ class MapReader {
     std::optional<Colour> colour_at(QPoint point);
 
     /// Fills the upper left corner of `target`, a 32-bit RGB image of the rectangle's size or
-    /// larger, with the rectangle inside the image; grey where it cannot be read.
-    void read(const QRect& rectangle, QImage& target);
+    /// larger, with the rectangle (shown pixels, inside the image) as it is shown at the level;
+    /// grey where it cannot be read. Below level 1 a shown pixel is the mean of four of the image,
+    /// which are spread over what it covers.
+    void read(const QRect& shown, ZoomLevel level, QImage& target) override;
+
+    /// Like read, but every shown pixel is the one of the image that a click on it means, whatever
+    /// the level; no_pixel outside the image and where it cannot be read. The rectangle's left edge
+    /// must not be negative.
+    void read_samples(const QRect& shown, ZoomLevel level, QImage& target);
 
     /// Returns why something inside the image could not be read, with the file; empty while all
     /// could.
-    const QString& problem() const { return problem_; }
+    const QString& problem() const override { return problem_; }
 
   private:
     void read_new_layout(std::string_view head);
     void note_problem(const QString& reason);
     bool read_pixels(int y, int first_x, int step, std::span<Pixel> pixels);
+    bool read_enlarged_row(int y, int first_shown_x, ZoomLevel level, std::span<Pixel> shown);
+    bool read_mean_row(int shown_y, int first_shown_x, ZoomLevel level, std::span<Pixel> shown);
 
     const MapImage& image_;
     QFile file_;
     std::optional<BitmapLayout> new_layout_; // of a file that was changed since it was opened
     const BitmapLayout* layout_ = nullptr;   // null when the file fits no longer
     std::vector<char> bytes_;
+    std::vector<Pixel> row_; // kept from one row to the next, like the bytes
+    std::vector<Pixel> other_row_;
     QString problem_;
 };
 

@@ -6,6 +6,7 @@
 #include "data/numbers.h"
 #include "gfx/terrain_art.h"
 #include "map/position_columns.h"
+#include "map/zoomed_rect.h"
 
 #include <QFont>
 #include <QFontMetrics>
@@ -14,12 +15,15 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 namespace map {
 
 namespace {
 
-constexpr int marker_size = 13; // pixels
+constexpr int marker_size = 13;               // pixels
+constexpr int smallest_size = 8;              // the longer side of what is shown of a graphic
+constexpr ZoomLevel smallest_with_labels(-1); // smaller ones have no room for all of them
 constexpr int outline_width = 3;
 constexpr int label_height = 14;
 constexpr int label_gap = 4; // between a port and the id of its sea
@@ -57,11 +61,22 @@ QImage draw_marker() {
     return image;
 }
 
-/// Returns where the image lies whose pixel `origin` stands on the position.
-QRect picture_rect(const QImage& image, QPoint origin, const StoredPosition& position) {
+/// Returns how large an image is shown at a level below 1.
+double small_scale(QSize image, ZoomLevel level) {
+    const int longer = std::max({image.width(), image.height(), 1});
+    return std::max(1.0 / level.step(), std::min(1.0, static_cast<double>(smallest_size) / longer));
+}
+
+/// Returns where the image is shown whose pixel `origin` stands on the position.
+QRect picture_rect(const QImage& image, QPoint origin, const StoredPosition& position,
+                   ZoomLevel level) {
     const QPoint pixel(static_cast<int>(std::floor(position.x)),
                        static_cast<int>(std::floor(position.y)));
-    return {pixel - origin, image.size()};
+    if (level.step() == 1)
+        return shown_rect(level, {pixel - origin, image.size()});
+    const double scale = small_scale(image.size(), level);
+    const QSize size = (QSizeF(image.size()) * scale).toSize().expandedTo({1, 1});
+    return {QPoint(level.shown(pixel.x()), level.shown(pixel.y())) - origin * scale, size};
 }
 
 /// Returns the sea's id as it stands beside its port.
@@ -95,12 +110,13 @@ QRect extent(const QRect& picture, const QImage& label) {
     return outline_rect(picture) | label_rect(picture, label);
 }
 
-/// Returns where the positions lie whose graphics reach into the rectangle.
-Area area_reaching_into(const QRect& rectangle, const QRect& largest) {
-    return {static_cast<double>(rectangle.left()) - largest.right(),
-            static_cast<double>(rectangle.top()) - largest.bottom(),
-            static_cast<double>(rectangle.right()) - largest.left() + 1,
-            static_cast<double>(rectangle.bottom()) - largest.top() + 1};
+/// Returns where the positions lie whose graphics reach into the rectangle (shown pixels).
+Area area_reaching_into(const QRect& rectangle, const QRect& largest, ZoomLevel level) {
+    const QRect shown(rectangle.topLeft() - largest.bottomRight(),
+                      rectangle.bottomRight() - largest.topLeft());
+    const QRect area = rect_on_map(level, shown);
+    return {static_cast<double>(area.left()), static_cast<double>(area.top()),
+            static_cast<double>(area.right()) + 1, static_cast<double>(area.bottom()) + 1};
 }
 
 void draw_outline(QPainter& painter, const QRect& picture, QColor colour) {
@@ -118,18 +134,21 @@ void draw_outline(QPainter& painter, const QRect& picture, QColor colour) {
 OverlayPreview::OverlayPreview(const shell::Session& session)
     : session_(session), marker_(draw_marker()) {}
 
-void OverlayPreview::ajout_graph(QPainter& painter, const QRegion& exposed, int pointed_province) {
+void OverlayPreview::ajout_graph(QPainter& painter, const QRegion& exposed, ZoomLevel level,
+                                 int pointed_province) {
     if (session_.mode == Mode::normal)
         return;
     bitmaps_.look_again();
-    const QRect largest = largest_extent();
+    if (std::exchange(level_of_small_, level) != level)
+        small_.clear();
+    const QRect largest = largest_extent(level);
     painter.save();
     for (const QRect& rectangle : exposed) {
         painter.setClipRect(rectangle);
         Outlines outlines; // above everything else
         for (const auto& position : positions_in(session_.provinces, session_.mode, session_.maps,
-                                                 area_reaching_into(rectangle, largest)))
-            ajout_graphique(painter, position, pointed_province, outlines);
+                                                 area_reaching_into(rectangle, largest, level)))
+            ajout_graphique(painter, position, level, pointed_province, outlines);
         for (const auto& [picture, colour] : outlines)
             draw_outline(painter, picture, colour);
     }
@@ -137,31 +156,45 @@ void OverlayPreview::ajout_graph(QPainter& painter, const QRegion& exposed, int 
 }
 
 void OverlayPreview::ajout_graphique(QPainter& painter, const StoredPosition& position,
-                                     int pointed_province, Outlines& outlines) {
+                                     ZoomLevel level, int pointed_province, Outlines& outlines) {
     const Graphic graphic = graphic_of(position);
     if (!graphic.problem.isEmpty())
         emit problem(graphic.problem);
-    const QRect picture = picture_rect(*graphic.image, graphic.origin, position);
-    painter.drawImage(picture.topLeft(), *graphic.image);
-    if (const QImage label = label_of(position.province); !label.isNull())
-        painter.drawImage(label_rect(picture, label).topLeft(), label);
+    const QRect picture = picture_rect(*graphic.image, graphic.origin, position, level);
+    draw(painter, picture, *graphic.image);
 
     const auto& port = session_.port_placement;
-    if (session_.mode == Mode::port && port.stage == 1 && position.province == port.province)
-        outlines.emplace_back(picture, waiting_colour);
-    else if (position.province == pointed_province)
-        outlines.emplace_back(picture, pointed_colour);
+    const bool waits =
+        session_.mode == Mode::port && port.stage == 1 && position.province == port.province;
+    const bool is_outlined = waits || position.province == pointed_province;
+    if (is_outlined)
+        outlines.emplace_back(picture, waits ? waiting_colour : pointed_colour);
+    if (level.power() < smallest_with_labels.power() && !is_outlined)
+        return;
+    if (const QImage label = label_of(position.province); !label.isNull())
+        painter.drawImage(label_rect(picture, label).topLeft(), label);
 }
 
-QRect OverlayPreview::bounds(int province) const {
+void OverlayPreview::draw(QPainter& painter, const QRect& picture, const QImage& image) {
+    if (picture.width() >= image.width()) { // else it is one of many, and to be made once
+        painter.drawImage(picture, image);
+        return;
+    }
+    QImage& small = small_[image.cacheKey()];
+    if (small.isNull())
+        small = image.scaled(picture.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    painter.drawImage(picture.topLeft(), small);
+}
+
+QRect OverlayPreview::bounds(int province, ZoomLevel level) const {
     QRect covered;
     if (province < 1 || province > data::last_province)
         return covered;
     for (const auto& position :
          positions_of(session_.provinces, session_.mode, session_.maps, province)) {
         const Graphic graphic = graphic_of(position);
-        covered |=
-            extent(picture_rect(*graphic.image, graphic.origin, position), label_of(province));
+        covered |= extent(picture_rect(*graphic.image, graphic.origin, position, level),
+                          label_of(province));
     }
     return covered;
 }
@@ -211,18 +244,19 @@ const Bitmap& OverlayPreview::terrain_art(const std::string& file) const {
 }
 
 /// Returns what the largest graphic of the mode covers around a position at (0, 0).
-QRect OverlayPreview::largest_extent() const {
+QRect OverlayPreview::largest_extent(ZoomLevel level) const {
     const StoredPosition zero{0, PositionColumns::no_drawing, 0, 0};
     if (const auto kind = sprite_kind(session_.mode)) {
         const Graphic sprite = sprite_graphic(*kind);
-        return extent(picture_rect(*sprite.image, sprite.origin, zero), label(largest_shown_id));
+        return extent(picture_rect(*sprite.image, sprite.origin, zero, level),
+                      label(largest_shown_id));
     }
-    QRect largest = picture_rect(marker_, marker_origin, zero);
+    QRect largest = picture_rect(marker_, marker_origin, zero, level);
     if (shows_drawings()) {
         for (const auto type : gfx::terrain_types) {
             for (int variant = 0; variant < gfx::terrain_variants; ++variant) {
                 const QImage& art = terrain_art(gfx::terrain_art_file(type, variant)).image;
-                largest |= picture_rect(art, {art.width() / 2, art.height() / 2}, zero);
+                largest |= picture_rect(art, {art.width() / 2, art.height() / 2}, zero, level);
             }
         }
     }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "map/map_image.h"
+#include "map/strip_reader.h"
+#include "map/zoom_level.h"
 
 #include <QImage>
 #include <QWidget>
@@ -9,16 +11,25 @@
 
 namespace map {
 
-/// A surface that shows an image, one pixel of it in one unit of every coordinate.
+/// A surface that shows an image at a zoom level: all its coordinates are shown pixels.
 class Picture : public QWidget {
     Q_OBJECT
 
   public:
-    /// Draws what lies over the image within the region (pixels), and clips to it.
+    /// Draws what lies over the image within the region (shown pixels), and clips to it.
     using DrawAbove = std::function<void(QPainter&, const QRegion&)>;
 
     /// The image must outlive the surface.
     Picture(const MapImage& image, DrawAbove draw_above, QWidget* parent);
+
+    /// Returns the image's size in pixels of the map.
+    QSize image_size() const { return image_.size(); }
+
+    /// Takes the image's size at the level.
+    void set_level(ZoomLevel level);
+
+    /// Shows from now on what that opens, in the place of the image alone.
+    void show_strips(OpenStrips open);
 
   signals:
     void pressed(const QMouseEvent& event);
@@ -36,6 +47,8 @@ class Picture : public QWidget {
   private:
     const MapImage& image_;
     DrawAbove draw_above_;
+    OpenStrips open_strips_;
+    ZoomLevel level_;
     QImage strip_; // kept from one painting to the next
 };
 

@@ -6,6 +6,7 @@
 #include "gfx/sprite_kind.h"
 #include "map/form1.h"
 #include "map/mode.h"
+#include "map/zoom_level.h"
 #include "shell/assignment.h"
 #include "shell/problem.h"
 #include "shell/session.h"
@@ -58,6 +59,10 @@ class MDIForm1 : public QMainWindow {
     void recuperer();
     void quitter();
     void show_map(map::ShownMap shown);
+    void zoom_plus();
+    void zoom_moins();
+    void zoom_1();
+    void zoom_tout();
     void enter_mode(map::Mode mode);
     /// Previews the set of a kind's item, counted from 1.
     void preview(gfx::SpriteKind kind, int item);
@@ -121,6 +126,7 @@ class MDIForm1 : public QMainWindow {
     void check_mode();
     void check_map(map::ShownMap shown);
     void enable_map_items(bool enabled);
+    void enable_zoom_items(map::ZoomLevel level);
 
     void save_to(const std::string& path);
     /// Keeps what is unsaved before something else is read over it; false when that failed.
@@ -133,6 +139,7 @@ class MDIForm1 : public QMainWindow {
     map::Form1* map_window();
     void make_map_window();
     void fit_map_window();
+    void zoom_by(int steps);
     void show_pointed(int province, const QPointF& position);
 
     Session& session_;

@@ -3,6 +3,7 @@
 #include "base/stored_path.h"
 #include "data/numbers.h"
 #include "editor/panneau.h"
+#include "map/map_view.h"
 #include "map/position_entry.h"
 #include "shell/mdi_form1.h"
 
@@ -35,8 +36,14 @@ constexpr std::array<MapItem, 3> map_items = {{
 } // namespace
 
 void MDIForm1::enable_map_items(bool enabled) {
-    for (const auto* name : {"carte_1", "carte_id", "normal", "saisie"})
+    for (const auto* name : {"carte_1", "carte_id", "zoom_plus", "zoom_moins", "zoom_1",
+                             "zoom_tout", "normal", "saisie"})
         action(name)->setEnabled(enabled);
+}
+
+void MDIForm1::enable_zoom_items(map::ZoomLevel level) {
+    action("zoom_plus")->setEnabled(!level.is_largest());
+    action("zoom_moins")->setEnabled(!level.is_smallest());
 }
 
 void MDIForm1::open_maps() {
@@ -63,6 +70,8 @@ void MDIForm1::make_map_window() {
     connect(map_, &map::Form1::province_clicked, this, &MDIForm1::select_clicked);
     connect(map_, &map::Form1::tabbed, this, [this](bool forward) { focusNextPrevChild(forward); });
     connect(map_, &map::Form1::problem, this, &MDIForm1::tell);
+    connect(&map_->view(), &map::MapView::level_changed, this, &MDIForm1::enable_zoom_items);
+    enable_zoom_items({});
     action("carte_2")->setEnabled(map_->has_map_2());
     check_map(map::ShownMap::map_1);
     map_frame_->show();
@@ -93,6 +102,29 @@ void MDIForm1::show_map(map::ShownMap shown) {
     map->show_map(shown);
     map_frame_->setWindowState(map_frame_->windowState() & ~Qt::WindowMinimized);
     check_map(shown);
+}
+
+void MDIForm1::zoom_plus() {
+    zoom_by(1);
+}
+
+void MDIForm1::zoom_moins() {
+    zoom_by(-1);
+}
+
+void MDIForm1::zoom_by(int steps) {
+    if (auto* map = map_window())
+        map->view().set_level(map::ZoomLevel(map->view().level().power() + steps));
+}
+
+void MDIForm1::zoom_1() {
+    if (auto* map = map_window())
+        map->view().set_level({});
+}
+
+void MDIForm1::zoom_tout() {
+    if (auto* map = map_window())
+        map->view().show_whole_map();
 }
 
 void MDIForm1::check_map(map::ShownMap shown) {

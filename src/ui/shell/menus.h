@@ -18,7 +18,7 @@ struct MenuItem {
     std::string_view name;   // object name
     std::string_view caption;
     void (*command)(MDIForm1&) = nullptr; // none: the item is a menu
-    std::string_view shortcut = {};
+    std::string_view shortcuts = {};      // separated by "; "
     bool checkable = false;
     bool after_separator = false;
     std::optional<Text> text = {}; // of an item whose caption is a text of our own

@@ -29,7 +29,7 @@ QImage coarse(QImage image) {
 /// Returns the whole image as the surfaces read it.
 QImage read_all(const map::MapImage& image) {
     QImage all(image.size(), QImage::Format_RGB32);
-    map::MapReader(image).read(all.rect(), all);
+    map::MapReader(image).read(all.rect(), {}, all);
     return all;
 }
 

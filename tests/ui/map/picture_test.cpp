@@ -13,7 +13,7 @@ TEST(Picture, PaintsEveryRowOfWhatIsExposed) {
     const support::Folder folder;
     const map::MapImage image(folder.write("map.bmp", bitmaps::noise({50, 100})));
     QImage whole(image.size(), QImage::Format_RGB32);
-    map::MapReader(image).read(whole.rect(), whole);
+    map::MapReader(image).read(whole.rect(), {}, whole);
     map::Picture picture(
         image, [](QPainter&, const QRegion&) {}, nullptr);
     for (const QRect& part : {QRect(0, 0, 50, 100), QRect(3, 5, 40, 64), QRect(0, 31, 50, 1),

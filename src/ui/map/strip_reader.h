@@ -1,0 +1,35 @@
+#pragma once
+
+#include "map/zoom_level.h"
+
+#include <QImage>
+#include <QRect>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+namespace map {
+
+class MapImage;
+
+/// What a surface shows, read in strips while it is painted once.
+class StripReader {
+  public:
+    StripReader() = default;
+    StripReader(const StripReader&) = delete;
+    StripReader& operator=(const StripReader&) = delete;
+    virtual ~StripReader() = default;
+
+    /// Fills the upper left corner of `target`, a 32-bit RGB image of the rectangle's size or
+    /// larger, with the rectangle (shown pixels, inside the surface) of what is shown at the level.
+    virtual void read(const QRect& shown, ZoomLevel level, QImage& target) = 0;
+
+    /// Returns why something could not be read, with the file; empty while all could.
+    virtual const QString& problem() const = 0;
+};
+
+/// Opens what is to be shown of the map for one painting; never null.
+using OpenStrips = std::function<std::unique_ptr<StripReader>(const MapImage& map)>;
+
+} // namespace map
