@@ -63,6 +63,10 @@ std::size_t find_ignoring_case(std::string_view text, std::string_view wanted, s
     return static_cast<std::size_t>(found - text.begin());
 }
 
+bool is_blank(std::string_view text) {
+    return text.empty() || text == "-" || text == "#N/A";
+}
+
 std::string with_decimal_point(std::string_view text) {
     std::string result(text);
     if (const auto comma = result.find(','); comma != std::string::npos)

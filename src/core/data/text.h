@@ -20,6 +20,9 @@ bool starts_with_ignoring_case(std::string_view text, std::string_view prefix);
 std::size_t find_ignoring_case(std::string_view text, std::string_view wanted,
                                std::size_t from = 0);
 
+/// Returns whether the text stands for no value, in one of the spellings of the game's files.
+bool is_blank(std::string_view text);
+
 /// Returns the text with its first comma turned into a decimal point.
 std::string with_decimal_point(std::string_view text);
 

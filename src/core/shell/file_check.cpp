@@ -2,6 +2,7 @@
 
 #include "data/numbers.h"
 #include "data/province_format.h"
+#include "data/text.h"
 
 #include <algorithm>
 #include <array>
@@ -199,7 +200,7 @@ class FileChecker {
             data::take_field(row);
         for (std::size_t at = 0; at < saved_instead.size(); ++at) {
             const auto text = data::take_field(row);
-            if (is_blank(text) || text == saved_instead[at])
+            if (data::is_blank(text) || text == saved_instead[at])
                 continue;
             if (dropped_[at].lines++ == 0)
                 dropped_[at].first = {.what = Text::problem_text_not_kept,

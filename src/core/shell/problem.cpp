@@ -5,10 +5,6 @@
 
 namespace shell {
 
-bool is_blank(std::string_view text) {
-    return text.empty() || text == "-" || text == "#N/A";
-}
-
 std::string text_of(const Problem& problem, const LanguageTexts& language) {
     return language.text(problem.what, {problem.value, problem.detail});
 }

@@ -25,9 +25,6 @@ struct Problem {
     bool is_hint = false;    // it may be meant so
 };
 
-/// Returns whether the text stands for no value, in one of the spellings of the game's files.
-bool is_blank(std::string_view text);
-
 /// Returns what is wrong, in the user's language.
 std::string text_of(const Problem& problem, const LanguageTexts& language);
 

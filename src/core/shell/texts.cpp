@@ -40,6 +40,8 @@ constexpr data::IndexedArray<Text, TextInfo, text_count> texts = {{{
     {Text::menu_zoom_moins, "menu_zoom_moins", "Zoom &out"},
     {Text::menu_zoom_1, "menu_zoom_1", "&Actual size"},
     {Text::menu_zoom_tout, "menu_zoom_tout", "&Whole map"},
+    {Text::menu_colorer, "menu_colorer", "Colour &by"},
+    {Text::menu_colorer_none, "menu_colorer_none", "&No colours"},
     {Text::menu_recherche, "menu_recherche", "Searc&h"},
     {Text::menu_verifier, "menu_verifier", "&Check..."},
     {Text::menu_modifications, "menu_modifications", "C&hanges..."},
@@ -87,6 +89,13 @@ constexpr data::IndexedArray<Text, TextInfo, text_count> texts = {{{
      "This selection is not applied yet: Enter applies it"},
     {Text::range_tip, "range_tip", "%1 to %2"},
     {Text::variant_tip, "variant_tip", "A click copies this variant to all selected provinces"},
+
+    // The legend of the colours
+    {Text::legend_tip, "legend_tip", "A click selects the provinces that have this colour."},
+    {Text::legend_range, "legend_range", "%1 to %2"},
+    {Text::legend_none, "legend_none", "No value"},
+    {Text::legend_yes, "legend_yes", "Yes"},
+    {Text::legend_no, "legend_no", "No"},
 
     // Columns and buttons of the dialogs
     {Text::column_province, "column_province", "Province"},

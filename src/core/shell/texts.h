@@ -39,6 +39,8 @@ enum class Text {
     menu_zoom_moins,
     menu_zoom_1,
     menu_zoom_tout,
+    menu_colorer,
+    menu_colorer_none,
     menu_recherche,
     menu_verifier,
     menu_modifications,
@@ -74,6 +76,13 @@ enum class Text {
     selection_not_applied_tip,
     range_tip,
     variant_tip,
+
+    // The legend of the colours
+    legend_tip,
+    legend_range,
+    legend_none,
+    legend_yes,
+    legend_no,
 
     // Columns and buttons of the dialogs
     column_province,

@@ -130,7 +130,7 @@ class ValueChecker {
         // Most provinces hold what another one held before.
         std::unordered_map<std::string_view, Verdict> verdicts;
         for (std::size_t row = 1; row < column.size(); ++row) {
-            if (is_blank(column[row]))
+            if (data::is_blank(column[row]))
                 continue;
             const auto [found, is_new] = verdicts.try_emplace(column[row]);
             if (is_new)
@@ -177,7 +177,7 @@ class ValueChecker {
         const auto flags = cells(column::mine_flag);
         const auto goods = cells(column::goods);
         for (std::size_t row = 1; row < flags.size(); ++row) {
-            if (is_blank(flags[row]) || is_blank(goods[row]))
+            if (data::is_blank(flags[row]) || data::is_blank(goods[row]))
                 continue;
             const double flag = data::leading_number(flags[row]);
             const bool is_gold = data::equal_ignoring_case(goods[row], "gold");
