@@ -88,7 +88,7 @@ int run_program(shell::Application& application, shell::Session& session,
     shell::MDIForm1 frame(session, application.copies(), run);
     application.keep_typed_text = [&frame] { frame.keep_typed_text(); };
     application.copies().set_typed_texts([&frame] { return frame.typed_texts(); });
-    application.after_event = [&frame] { frame.etat().look(); };
+    application.after_event = [&frame] { frame.look(); };
     // Events still come while the frame is being destroyed.
     const auto frame_ends = qScopeGuard([&application] {
         application.keep_typed_text = [] {};

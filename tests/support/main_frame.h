@@ -54,7 +54,7 @@ class MainFrame : public testing::Test {
                                                   shell::start_up(session));
         application.after_event = [this] {
             if (frame) // no more while it is being destroyed
-                frame->etat().look();
+                frame->look();
         };
         frame->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(frame.get()));

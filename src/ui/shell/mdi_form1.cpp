@@ -6,6 +6,7 @@
 #include "base/shown_text.h"
 #include "base/stored_path.h"
 #include "editor/panneau.h"
+#include "shell/coloriage.h"
 #include "shell/etat.h"
 #include "shell/menus.h"
 #include "shell/notice.h"
@@ -46,6 +47,7 @@ MDIForm1::MDIForm1(Session& session, RecoveryCopies& copies, Run run)
     fill_language_menu();
     build_workspace();
     build_status_bar();
+    build_colours();
     set_up_items(run);
     show_status_text(map::info(session_.mode).status_text);
 }
@@ -174,6 +176,11 @@ void MDIForm1::focus_selection_text() {
         enter_mode(map::Mode::normal); // the other modes hide the panel
     activateWindow();                  // the keys may come from a dialog
     panel_->focus_selection_text();
+}
+
+void MDIForm1::look() {
+    etat_->look();
+    coloriage_->look();
 }
 
 void MDIForm1::tell(const QString& notice) {

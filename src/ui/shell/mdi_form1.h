@@ -34,6 +34,7 @@ class Panneau;
 
 namespace shell {
 
+class Coloriage;
 class Form_controle;
 class Form_modifications;
 class Etat;
@@ -67,6 +68,9 @@ class MDIForm1 : public QMainWindow {
     /// Previews the set of a kind's item, counted from 1.
     void preview(gfx::SpriteKind kind, int item);
     void toggle_drawings();
+    /// Colours the map by one of the fields that it can be coloured by.
+    void colour_by(data::FieldNumber field);
+    void end_colours();
     /// Takes the language of the item, counted from 0, for the next start; one that could not be
     /// read then is refused.
     void choose_language(int item);
@@ -92,8 +96,8 @@ class MDIForm1 : public QMainWindow {
     /// Shows what happened in the status bar for a while.
     void tell(const QString& notice);
 
-    /// Returns the part of the status bar that is to look after every event whether it still holds.
-    Etat& etat() const { return *etat_; }
+    /// Looks after every event whether the state and the colours still hold.
+    void look();
 
   protected:
     void changeEvent(QEvent* event) override;
@@ -105,6 +109,7 @@ class MDIForm1 : public QMainWindow {
     void fill_language_menu();
     void build_workspace();
     void build_status_bar();
+    void build_colours();
     void set_up_items(Run run);
 
     /// Makes the items of each kind in the graphics menu one exclusive choice.
@@ -158,6 +163,7 @@ class MDIForm1 : public QMainWindow {
     QRect fitted_; // where the map window was put last; its frame's place in the workspace
     QLabel* mode_text_ = nullptr;
     Etat* etat_ = nullptr;
+    Coloriage* coloriage_ = nullptr;
     QLabel* pointed_name_ = nullptr;
     Notice* notice_ = nullptr;
     QLabel* pointer_text_ = nullptr;

@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 
 #include <array>
 #include <memory>
@@ -39,6 +40,8 @@ void MDIForm1::enable_map_items(bool enabled) {
     for (const auto* name : {"carte_1", "carte_id", "zoom_plus", "zoom_moins", "zoom_1",
                              "zoom_tout", "normal", "saisie"})
         action(name)->setEnabled(enabled);
+    for (auto* item : action("colorer")->menu()->actions())
+        item->setEnabled(enabled);
 }
 
 void MDIForm1::enable_zoom_items(map::ZoomLevel level) {

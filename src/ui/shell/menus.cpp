@@ -63,6 +63,9 @@ constexpr std::array items = {
              Text::menu_zoom_1},
     MenuItem{"carte", "zoom_tout", "", run<&MDIForm1::zoom_tout>, "Ctrl+9", false, false,
              Text::menu_zoom_tout},
+    MenuItem{"carte", "colorer", "", nullptr, "", false, after_separator, Text::menu_colorer},
+    MenuItem{"colorer", "colorer(0)", "", run<&MDIForm1::end_colours>, "", checkable, false,
+             Text::menu_colorer_none},
 
     MenuItem{"", "recherche", "", nullptr, "", false, false, Text::menu_recherche},
     MenuItem{"recherche", "vérifier", "", run<&MDIForm1::verifier>, "Ctrl+K", false, false,

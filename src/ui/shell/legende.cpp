@@ -1,0 +1,105 @@
+#include "shell/legende.h"
+
+#include "base/captions.h"
+#include "editor/coded_choices.h"
+#include "shell/place_check.h"
+
+#include <QHeaderView>
+#include <QPainter>
+#include <QTreeWidget>
+
+namespace shell {
+
+namespace {
+
+constexpr int narrowest = 20; // characters
+constexpr int text_column = 0;
+constexpr int count_column = 1;
+
+QIcon swatch(map::Pixel colour, int size) {
+    QPixmap pixmap(size, size);
+    pixmap.fill(QColor::fromRgb(colour));
+    QPainter painter(&pixmap);
+    painter.setPen(Qt::black);
+    painter.drawRect(pixmap.rect().adjusted(0, 0, -1, -1));
+    return pixmap;
+}
+
+} // namespace
+
+Legende::Legende(const Session& session, QWidget* owner)
+    : QDockWidget(owner), session_(session), list_(new QTreeWidget(this)) {
+    setObjectName(QStringLiteral("légende"));
+    setFeatures(DockWidgetClosable);
+    list_->setObjectName(QStringLiteral("légende_liste"));
+    list_->setColumnCount(2);
+    list_->setRootIsDecorated(false);
+    list_->setUniformRowHeights(true);
+    list_->setHeaderHidden(true);
+    list_->header()->setStretchLastSection(false);
+    list_->header()->setSectionResizeMode(text_column, QHeaderView::Stretch);
+    list_->header()->setSectionResizeMode(count_column, QHeaderView::ResizeToContents);
+    list_->setMinimumWidth(fontMetrics().averageCharWidth() * narrowest);
+    list_->setToolTip(base::own_text(session.language, Text::legend_tip));
+    setWidget(list_);
+    const auto choose = [this](const QTreeWidgetItem* item) {
+        emit chosen(provinces_.at(static_cast<std::size_t>(list_->indexOfTopLevelItem(item))));
+    };
+    connect(list_, &QTreeWidget::itemClicked, this, choose);
+    connect(list_, &QTreeWidget::itemActivated, this, choose);
+}
+
+void Legende::show_classes(const editor::Field& field, const QString& name,
+                           std::span<const map::ColourClass> classes) {
+    setWindowTitle(name);
+    list_->setAccessibleName(name);
+    const int current = list_->indexOfTopLevelItem(list_->currentItem());
+    const int swatch_size = fontMetrics().ascent();
+    list_->clear();
+    provinces_.clear();
+    for (const auto& colour_class : classes) {
+        auto* item = new QTreeWidgetItem(list_, {base::caption_text(text_of(field, colour_class)),
+                                                 QString::number(colour_class.provinces.size())});
+        item->setIcon(text_column, swatch(colour_class.colour, swatch_size));
+        item->setTextAlignment(count_column, Qt::AlignRight | Qt::AlignVCenter);
+        provinces_.push_back(colour_class.provinces);
+    }
+    if (current >= 0)
+        list_->setCurrentItem(list_->topLevelItem(current));
+}
+
+std::string Legende::text_of(const editor::Field& field,
+                             const map::ColourClass& colour_class) const {
+    const auto& language = session_.language;
+    switch (colour_class.kind) {
+    case map::ColourClass::Kind::code:
+        return text_of_code(field, colour_class.value);
+    case map::ColourClass::Kind::number:
+        return colour_class.value;
+    case map::ColourClass::Kind::range:
+        return language.text(Text::legend_range, {colour_class.value, colour_class.highest});
+    case map::ColourClass::Kind::none:
+        return language.text(Text::legend_none);
+    case map::ColourClass::Kind::sea:
+        return text_of_code(editor::fields[data::field_number(data::column::terrain)],
+                            sea_code(language));
+    }
+    return {};
+}
+
+/// Returns the text that the panel shows for the code; for a code that it does not know, the code.
+std::string Legende::text_of_code(const editor::Field& field, const std::string& code) const {
+    const auto& language = session_.language;
+    if (field.display == editor::Display::box || field.display == editor::Display::coast)
+        return language.text(editor::is_checked(field, code) ? Text::legend_yes : Text::legend_no);
+    const auto list = language.list(field.list_prefix);
+    const int index = index_of_code(list, code);
+    return index < 0 ? code : list[static_cast<std::size_t>(index)].text;
+}
+
+void Legende::closeEvent(QCloseEvent* event) {
+    QDockWidget::closeEvent(event);
+    emit closed();
+}
+
+} // namespace shell

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "editor/fields.h"
+#include "map/field_colours.h"
+#include "shell/session.h"
+
+#include <QDockWidget>
+
+#include <span>
+#include <string>
+#include <vector>
+
+class QTreeWidget;
+
+namespace shell {
+
+/// What the colours of the map mean: a list of colours, their values and how many provinces have
+/// them. An entry that is clicked, or on which Enter is pressed, selects its provinces.
+class Legende : public QDockWidget {
+    Q_OBJECT
+
+  public:
+    Legende(const Session& session, QWidget* owner);
+
+    /// Shows the classes of the field, which is named in the title.
+    void show_classes(const editor::Field& field, const QString& name,
+                      std::span<const map::ColourClass> classes);
+
+  signals:
+    void chosen(const std::vector<int>& provinces);
+    void closed();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    std::string text_of(const editor::Field& field, const map::ColourClass& colour_class) const;
+    std::string text_of_code(const editor::Field& field, const std::string& code) const;
+
+    const Session& session_;
+    QTreeWidget* list_;
+    std::vector<std::vector<int>> provinces_; // by row of the list
+};
+
+} // namespace shell

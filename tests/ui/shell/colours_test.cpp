@@ -1,0 +1,95 @@
+#include "map/field_colours.h"
+#include "map/palette.h"
+#include "support/bitmaps.h"
+#include "support/main_frame.h"
+
+#include <QDockWidget>
+#include <QTreeWidget>
+
+/// The map coloured by a field, and its legend, in the main frame.
+namespace {
+
+constexpr int width = 200;
+constexpr QRgb paper = 0xFFE0D0C0;
+constexpr int religion = 3; // field
+constexpr int hindu = 4;    // among the language file's codes
+constexpr int orthodox = 5;
+
+class Colours : public support::MainFrame {
+  protected:
+    /// Provinces 5 and 6 share the map, left and right.
+    Colours() {
+        folder.write("relief.bmp",
+                     bitmaps::painted(width, 120, [](int, int) { return paper & 0xFFFFFF; }));
+        folder.write("ids.bmp", bitmaps::painted(width, 120, [](int x, int) {
+                         return bitmaps::colour_of(x < width / 2 ? 5 : 6);
+                     }));
+        load(5, religion, "hindu");
+        load(6, religion, "orthodox");
+    }
+
+    void colour_by(const std::string& item) const {
+        choose("carte", "colorer");
+        auto* menu = action("colorer").menu();
+        ASSERT_TRUE(menu->isVisible());
+        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(&action(item)).center());
+        QCoreApplication::processEvents();
+    }
+    QRgb seen(int x) const {
+        auto& surface = control<QWidget>("Picture1");
+        return frame->grab().toImage().pixel(surface.mapTo(frame.get(), QPoint(x, 50)));
+    }
+    /// Returns the colour of a religion's code on the map.
+    QRgb shown(std::size_t code) const {
+        const QColor colour = QColor::fromRgb(map::code_colour(code));
+        const double part = (154 + std::floor(qGray(paper) * 102 / 256.0)) / 256;
+        return qRgb(static_cast<int>(colour.red() * part), static_cast<int>(colour.green() * part),
+                    static_cast<int>(colour.blue() * part));
+    }
+    std::string legend() const {
+        QString rows;
+        for (int row = 0; row < list().topLevelItemCount(); ++row)
+            rows +=
+                list().topLevelItem(row)->text(0) + ' ' + list().topLevelItem(row)->text(1) + '\n';
+        return rows.toStdString();
+    }
+    QTreeWidget& list() const { return control<QTreeWidget>("légende_liste"); }
+    QString selection_text() const { return control<QLineEdit>("selection_text").text(); }
+};
+
+TEST_F(Colours, TheMapShowsAFieldAndTheLegendSelects) {
+    start();
+    EXPECT_FALSE(action("colorer(3)").isEnabled());
+    open_maps("relief.bmp", "", "ids.bmp");
+    EXPECT_EQ(seen(20), paper);
+    EXPECT_EQ(action("colorer(3)").text(), "Religion");
+    colour_by("colorer(3)");
+    EXPECT_EQ(seen(20), shown(hindu));
+    EXPECT_EQ(seen(150), shown(orthodox));
+    EXPECT_EQ(legend(), "Hindu 1\nOrthodox 1\nNo value 2016\n");
+    EXPECT_EQ(control<QDockWidget>("légende").windowTitle(), "Religion");
+
+    const auto row = [this](int at) {
+        return list().visualItemRect(list().topLevelItem(at)).center();
+    };
+    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row(1));
+    EXPECT_EQ(selection_text(), "6");
+    click("religion(4)"); // what is edited changes colour at once
+    EXPECT_EQ(cell(6, religion), "hindu");
+    EXPECT_EQ(seen(190), shown(hindu));
+    EXPECT_EQ(legend(), "Hindu 2\nNo value 2016\n");
+    list().setFocus();
+    QTest::keyClick(&list(), Qt::Key_Down);
+    QTest::keyClick(&list(), Qt::Key_Return);
+    EXPECT_EQ(selection_text(), "1-4;7-2018");
+
+    colour_by("colorer(0)");
+    EXPECT_FALSE(control<QDockWidget>("légende").isVisible());
+    EXPECT_EQ(seen(190), paper);
+    colour_by("colorer(3)");
+    control<QDockWidget>("légende").close();
+    EXPECT_EQ(seen(190), paper);
+    EXPECT_TRUE(action("colorer(0)").isChecked());
+}
+
+} // namespace
