@@ -42,6 +42,9 @@ class Panneau : public QWidget {
     /// Gives the selection text the keyboard focus.
     void focus_selection_text();
 
+    /// Returns what the panel calls the field; empty for one that it does not show.
+    const QString& field_name(data::FieldNumber field) const { return bound_[field].name; }
+
     /// Shows the selected provinces' values in all controls.
     void show_selection();
 

@@ -2,6 +2,7 @@
 
 #include "base/messages.h"
 #include "data/numbers.h"
+#include "map/coloured_strips.h"
 #include "map/dots.h"
 #include "map/map_view.h"
 
@@ -86,6 +87,14 @@ void Form1::selection_or_mode_changed() {
     told_.clear();
     work_out_dots();
     clear_graphique();
+}
+
+void Form1::colour(std::shared_ptr<const FieldColours> colours) {
+    view_->show_strips([this, colours](const MapImage& map) -> std::unique_ptr<StripReader> {
+        if (colours)
+            return std::make_unique<ColouredStrips>(map, id_map_, colours);
+        return std::make_unique<MapReader>(map);
+    });
 }
 
 void Form1::graphics_changed() {

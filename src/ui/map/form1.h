@@ -1,5 +1,6 @@
 #pragma once
 
+#include "map/field_colours.h"
 #include "map/map_image.h"
 #include "map/overlay_preview.h"
 #include "map/position_entry.h"
@@ -12,6 +13,7 @@
 #include <QSet>
 #include <QWidget>
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -45,6 +47,9 @@ class Form1 : public QWidget {
 
     /// Redraws the maps for another selection or another mode, which both change the dots.
     void selection_or_mode_changed();
+
+    /// Colours the maps from now on; not at all without colours.
+    void colour(std::shared_ptr<const FieldColours> colours);
 
     /// Redraws the maps for other graphics, or another choice among them.
     void graphics_changed();

@@ -42,7 +42,7 @@ Legende::Legende(const Session& session, QWidget* owner)
     list_->setMinimumWidth(fontMetrics().averageCharWidth() * narrowest);
     list_->setToolTip(base::own_text(session.language, Text::legend_tip));
     setWidget(list_);
-    const auto choose = [this](const QTreeWidgetItem* item) {
+    const auto choose = [this](QTreeWidgetItem* item) {
         emit chosen(provinces_.at(static_cast<std::size_t>(list_->indexOfTopLevelItem(item))));
     };
     connect(list_, &QTreeWidget::itemClicked, this, choose);

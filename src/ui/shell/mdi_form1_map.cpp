@@ -5,6 +5,7 @@
 #include "editor/panneau.h"
 #include "map/map_view.h"
 #include "map/position_entry.h"
+#include "shell/coloriage.h"
 #include "shell/mdi_form1.h"
 
 #include <QAction>
@@ -75,6 +76,7 @@ void MDIForm1::make_map_window() {
     connect(map_, &map::Form1::problem, this, &MDIForm1::tell);
     connect(&map_->view(), &map::MapView::level_changed, this, &MDIForm1::enable_zoom_items);
     enable_zoom_items({});
+    map_->colour(coloriage_->colours());
     action("carte_2")->setEnabled(map_->has_map_2());
     check_map(map::ShownMap::map_1);
     map_frame_->show();
