@@ -4,11 +4,14 @@
 #include "editor/merged_values.h"
 #include "editor/selection.h"
 #include "shell/mdi_form1.h"
+#include "shell/province_search.h"
 #include "shell/recovery_copies.h"
 #include "shell/session.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QFile>
+#include <QLineEdit>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
@@ -105,6 +108,22 @@ void write_a_value_into_all_provinces(benchmark::State& state) {
 }
 BENCHMARK(write_a_value_into_all_provinces)->Unit(benchmark::kMicrosecond);
 
+void find_provinces(benchmark::State& state) {
+    const auto table = full_table();
+    const shell::LanguageTexts language;
+    // The worst case: every province has another value, and the text ends each of them.
+    const shell::Search by_name = {{}, shell::Comparison::contains, "9"};
+    const shell::Search by_number = {
+        {shell::SearchTarget::Kind::column, data::field_number(data::column::city_x)},
+        shell::Comparison::greater,
+        "3000"};
+    for ([[maybe_unused]] auto _ : state) {
+        benchmark::DoNotOptimize(find_provinces(table, language, by_name));
+        benchmark::DoNotOptimize(find_provinces(table, language, by_number));
+    }
+}
+BENCHMARK(find_provinces)->Unit(benchmark::kMicrosecond);
+
 /// The program's folder with the shipped language files.
 class Program {
   public:
@@ -138,6 +157,31 @@ void apply_selection_until_the_panel_is_shown(benchmark::State& state) {
     }
 }
 BENCHMARK(apply_selection_until_the_panel_is_shown)->Unit(benchmark::kMillisecond);
+
+void type_into_the_search_until_the_results_are_shown(benchmark::State& state) {
+    const Program program;
+    const auto session = program.session();
+    shell::RecoveryCopies copies(*session);
+    shell::MDIForm1 frame(*session, copies, shell::start_up(*session));
+    session->provinces = full_table();
+    frame.show();
+    frame.trouver();
+    QApplication::processEvents();
+    auto& text = *frame.findChild<QDialog*>(QStringLiteral("Form_recherche"))
+                      ->findChild<QLineEdit*>(QStringLiteral("text"));
+    bool more = false;
+    for ([[maybe_unused]] auto _ : state) {
+        text.setText(more ? QStringLiteral("pro") : QStringLiteral("prov")); // all have it
+        if (state.range(0) != 0)
+            QApplication::processEvents(); // paints
+        more = !more;
+    }
+}
+BENCHMARK(type_into_the_search_until_the_results_are_shown)
+    ->ArgName("painted")
+    ->Arg(0)
+    ->Arg(1)
+    ->Unit(benchmark::kMillisecond);
 
 void start_until_the_main_frame_is_shown(benchmark::State& state) {
     const Program program;

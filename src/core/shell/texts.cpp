@@ -43,8 +43,11 @@ constexpr data::IndexedArray<Text, TextInfo, text_count> texts = {{{
     {Text::menu_colorer, "menu_colorer", "Colour &by"},
     {Text::menu_colorer_none, "menu_colorer_none", "&No colours"},
     {Text::menu_recherche, "menu_recherche", "Searc&h"},
+    {Text::menu_trouver, "menu_trouver", "&Find..."},
     {Text::menu_verifier, "menu_verifier", "&Check..."},
     {Text::menu_modifications, "menu_modifications", "C&hanges..."},
+    {Text::menu_selection_precedente, "menu_selection_precedente", "&Previous selection"},
+    {Text::menu_selection_suivante, "menu_selection_suivante", "N&ext selection"},
 
     // Status bar
     {Text::etat_none_selected, "etat_none_selected", "No province selected"},
@@ -114,6 +117,11 @@ constexpr data::IndexedArray<Text, TextInfo, text_count> texts = {{{
     {Text::button_put_back, "button_put_back", "&Put back"},
     {Text::button_refresh, "button_refresh", "&Refresh"},
     {Text::button_close, "button_close", "Close"},
+    {Text::button_select_all, "button_select_all", "Select &all"},
+    {Text::button_add, "button_add", "A&dd"},
+    {Text::button_remove, "button_remove", "Re&move"},
+    {Text::button_keep, "button_keep", "&Keep only"},
+    {Text::button_invert, "button_invert", "&Invert"},
 
     // Choosing files, folders, sprite sets and the language
     {Text::chooser_browse, "chooser_browse", "Choose the file: %1"},
@@ -146,6 +154,43 @@ constexpr data::IndexedArray<Text, TextInfo, text_count> texts = {{{
      "Changes since the file was read or saved"},
     {Text::modifications_none, "modifications_none", "There are no unsaved changes."},
     {Text::modifications_count, "modifications_count", "%1 changes"},
+
+    // The search
+    {Text::recherche_caption, "recherche_caption", "Find provinces"},
+    {Text::recherche_field, "recherche_field", "&Field"},
+    {Text::recherche_field_tip, "recherche_field_tip",
+     "Type any part of a field's name, or of its header in the province file, and press Enter"},
+    {Text::recherche_name_or_city, "recherche_name_or_city", "Name or city"},
+    {Text::recherche_comparison, "recherche_comparison", "&Comparison"},
+    {Text::recherche_comparison_tip, "recherche_comparison_tip",
+     "Empty is a value that is missing, - or #N/A. Less and greater compare numbers and find no "
+     "value that is none."},
+    {Text::comparison_contains, "comparison_contains", "contains"},
+    {Text::comparison_equals, "comparison_equals", "equals"},
+    {Text::comparison_differs, "comparison_differs", "differs from"},
+    {Text::comparison_is_empty, "comparison_is_empty", "is empty"},
+    {Text::comparison_less, "comparison_less", "is less than"},
+    {Text::comparison_greater, "comparison_greater", "is greater than"},
+    {Text::recherche_text, "recherche_text", "&Text"},
+    {Text::recherche_text_tip, "recherche_text_tip",
+     "Letter case does not matter; a coded value is found by its code and by its text. Up and Down "
+     "choose a province of the list, Enter selects it."},
+    {Text::recherche_none, "recherche_none", "No province was found."},
+    {Text::recherche_one, "recherche_one", "1 province"},
+    {Text::recherche_count, "recherche_count", "%1 provinces"},
+    {Text::recherche_chosen, "recherche_chosen", "%1 provinces, %2 chosen"},
+    {Text::select_all_tip, "select_all_tip",
+     "Select all provinces of the list, or only the chosen rows when there are several"},
+    {Text::add_tip, "add_tip",
+     "Add all provinces of the list, or the chosen rows when there are several, to the selection"},
+    {Text::remove_tip, "remove_tip",
+     "Take all provinces of the list, or the chosen rows when there are several, out of the "
+     "selection"},
+    {Text::keep_tip, "keep_tip",
+     "Keep of the selection only what the list holds too, or the chosen rows when there are "
+     "several"},
+    {Text::invert_tip, "invert_tip",
+     "Select all provinces that are not selected now, whatever the list holds"},
 
     // The check
     {Text::controle_caption, "controle_caption", "Check of the provinces"},

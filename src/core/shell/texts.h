@@ -42,8 +42,11 @@ enum class Text {
     menu_colorer,
     menu_colorer_none,
     menu_recherche,
+    menu_trouver,
     menu_verifier,
     menu_modifications,
+    menu_selection_precedente,
+    menu_selection_suivante,
 
     // Status bar
     etat_none_selected,
@@ -101,6 +104,11 @@ enum class Text {
     button_put_back,
     button_refresh,
     button_close,
+    button_select_all,
+    button_add,
+    button_remove,
+    button_keep,
+    button_invert,
 
     // Choosing files, folders, sprite sets and the language
     chooser_browse,
@@ -128,6 +136,31 @@ enum class Text {
     modifications_caption,
     modifications_none,
     modifications_count,
+
+    // The search
+    recherche_caption,
+    recherche_field,
+    recherche_field_tip,
+    recherche_name_or_city,
+    recherche_comparison,
+    recherche_comparison_tip,
+    comparison_contains,
+    comparison_equals,
+    comparison_differs,
+    comparison_is_empty,
+    comparison_less,
+    comparison_greater,
+    recherche_text,
+    recherche_text_tip,
+    recherche_none,
+    recherche_one,
+    recherche_count,
+    recherche_chosen,
+    select_all_tip,
+    add_tip,
+    remove_tip,
+    keep_tip,
+    invert_tip,
 
     // The check
     controle_caption,

@@ -15,6 +15,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace editor {
 
 namespace {
@@ -92,6 +94,18 @@ void Panneau::selection_applied() {
 void Panneau::focus_selection_text() {
     selection_text_->setFocus(Qt::ShortcutFocusReason);
     selection_text_->selectAll();
+}
+
+std::optional<data::FieldNumber> Panneau::focused_field() const {
+    const QWidget* focus = QApplication::focusWidget();
+    for (const Field& field : fields) {
+        const auto& controls = bound_[field.number].controls;
+        if (std::any_of(controls.begin(), controls.end(), [focus](const QWidget* control) {
+                return control == focus || control->isAncestorOf(focus);
+            }))
+            return field.number;
+    }
+    return std::nullopt;
 }
 
 void Panneau::show_selection() {

@@ -42,6 +42,9 @@ class Panneau : public QWidget {
     /// Gives the selection text the keyboard focus.
     void focus_selection_text();
 
+    /// Returns the field whose control has the keyboard focus; none without one.
+    std::optional<data::FieldNumber> focused_field() const;
+
     /// Returns what the panel calls the field; empty for one that it does not show.
     const QString& field_name(data::FieldNumber field) const { return bound_[field].name; }
 
@@ -77,6 +80,7 @@ class Panneau : public QWidget {
     struct Bound {
         Show show;
         QString name;
+        std::vector<QWidget*> controls; // the frame of a group
         std::vector<Mark*> marks;
     };
 

@@ -49,6 +49,7 @@ void Panneau::adopt(const Field& field, QWidget& control) {
     auto& bound = bound_[field.number];
     if (bound.name.isEmpty())
         bound.name = control.accessibleName();
+    bound.controls.push_back(&control);
     bound.marks.push_back(
         new Mark(control, base::own_text(session_.language, shell::Text::differing_placeholder),
                  [this, &field] { return differing_tip(session_, field); }));

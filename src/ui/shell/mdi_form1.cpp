@@ -156,7 +156,8 @@ void MDIForm1::build_status_bar() {
 
 void MDIForm1::set_up_items(Run run) {
     enable_map_items(false);
-    action("carte_2")->setEnabled(false);
+    for (const auto* name : {"carte_2", "sélection_précédente", "sélection_suivante"})
+        action(name)->setEnabled(false);
     for (const auto* name : position_items)
         action(name)->setEnabled(run == Run::later);
     check_mode();

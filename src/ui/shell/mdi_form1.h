@@ -2,6 +2,7 @@
 
 #include "data/province_file.h"
 #include "data/run_time_error.h"
+#include "editor/selection_history.h"
 #include "editor/typed_text.h"
 #include "gfx/sprite_kind.h"
 #include "map/form1.h"
@@ -37,6 +38,7 @@ namespace shell {
 class Coloriage;
 class Form_controle;
 class Form_modifications;
+class Form_recherche;
 class Etat;
 class Notice;
 class RecoveryCopies;
@@ -74,8 +76,11 @@ class MDIForm1 : public QMainWindow {
     /// Takes the language of the item, counted from 0, for the next start; one that could not be
     /// read then is refused.
     void choose_language(int item);
+    void trouver();
     void verifier();
     void modifications();
+    void selection_precedente();
+    void selection_suivante();
     void propos();
 
     // What the commands do once their dialogs are confirmed.
@@ -126,6 +131,8 @@ class MDIForm1 : public QMainWindow {
     /// Selects what the field names. An error that the caller knows better is shown instead of the
     /// one that an identifier above 2018 leads to.
     void apply_selection(const std::optional<data::RunTimeError>& known_error = {});
+    /// Takes the present selection into the history; a text that names it all shows it there.
+    void remember_selection(const std::string& text);
     void select_clicked(int identifier, bool add, const std::string& place);
     void show_status_text(int number);
     void check_mode();
@@ -154,6 +161,8 @@ class MDIForm1 : public QMainWindow {
     std::vector<Problem> file_problems_; // of the file that was read, until a save replaces it
     QPointer<Form_controle> controle_;
     QPointer<Form_modifications> modifications_;
+    QPointer<Form_recherche> recherche_;
+    editor::SelectionHistory history_;
     std::map<std::string_view, QAction*> actions_; // by their names in the menus' table
     QStringList languages_;                        // file names without ".lng", in the menu's order
     editor::Panneau* panel_ = nullptr;

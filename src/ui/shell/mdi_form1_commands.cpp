@@ -3,6 +3,7 @@
 #include "base/shown_text.h"
 #include "base/stored_path.h"
 #include "data/run_time_error.h"
+#include "editor/combined_selection.h"
 #include "editor/panneau.h"
 #include "gfx/form2.h"
 #include "gfx/form3.h"
@@ -192,7 +193,9 @@ void MDIForm1::apply_selection(const std::optional<data::RunTimeError>& known_er
     try {
         session_.selection.apply(text);
         panel_->selection_applied();
+        remember_selection(text);
     } catch (const data::RunTimeError& error) {
+        remember_selection(editor::selection_text(session_.selection.provinces()));
         panel_->forget_shown(); // it still shows what was selected before
         base::show_error(session_, this, known_error.value_or(error));
         return;
@@ -200,6 +203,21 @@ void MDIForm1::apply_selection(const std::optional<data::RunTimeError>& known_er
     if (map_)
         map_->selection_or_mode_changed();
     panel_->show_selection();
+}
+
+void MDIForm1::remember_selection(const std::string& text) {
+    const auto named = editor::selection_text(session_.selection.provinces());
+    history_.add(editor::is_well_formed(text) ? text : named, named);
+    action("sélection_précédente")->setEnabled(history_.has_earlier());
+    action("sélection_suivante")->setEnabled(history_.has_later());
+}
+
+void MDIForm1::selection_precedente() {
+    select(history_.go_back());
+}
+
+void MDIForm1::selection_suivante() {
+    select(history_.go_forward());
 }
 
 std::vector<editor::TypedText> MDIForm1::typed_texts() const {

@@ -2,6 +2,7 @@
 #include "map/province_places.h"
 #include "shell/form_controle.h"
 #include "shell/form_modifications.h"
+#include "shell/form_recherche.h"
 #include "shell/mdi_form1.h"
 #include "shell/place_check.h"
 #include "shell/value_check.h"
@@ -37,6 +38,19 @@ void MDIForm1::modifications() {
         return form;
     });
     modifications_->refresh();
+}
+
+void MDIForm1::trouver() {
+    const auto field = panel_->focused_field(); // before the dialog takes the focus
+    show_beside(recherche_, [this] {
+        auto* form = new Form_recherche(session_, *panel_, this);
+        connect(form, &Form_recherche::selection_wanted, this, &MDIForm1::select);
+        return form;
+    });
+    if (field)
+        recherche_->begin_with(editor::fields[*field]);
+    else
+        recherche_->begin();
 }
 
 void MDIForm1::verifier() {

@@ -68,10 +68,16 @@ constexpr std::array items = {
              Text::menu_colorer_none},
 
     MenuItem{"", "recherche", "", nullptr, "", false, false, Text::menu_recherche},
+    MenuItem{"recherche", "trouver", "", run<&MDIForm1::trouver>, "Ctrl+F", false, false,
+             Text::menu_trouver},
     MenuItem{"recherche", "vérifier", "", run<&MDIForm1::verifier>, "Ctrl+K", false, false,
              Text::menu_verifier},
     MenuItem{"recherche", "modifications", "", run<&MDIForm1::modifications>, "Ctrl+D", false,
              false, Text::menu_modifications},
+    MenuItem{"recherche", "sélection_précédente", "", run<&MDIForm1::selection_precedente>,
+             "Alt+Left", false, after_separator, Text::menu_selection_precedente},
+    MenuItem{"recherche", "sélection_suivante", "", run<&MDIForm1::selection_suivante>, "Alt+Right",
+             false, false, Text::menu_selection_suivante},
 
     MenuItem{"", "mode", "&Mode"},
     MenuItem{"mode", "normal", "&Normal", enter_mode<Mode::normal>, "F2", checkable},

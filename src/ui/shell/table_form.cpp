@@ -24,19 +24,6 @@ constexpr QSize initial_size(760, 420);
 constexpr int row_margin = 6;      // pixels above and below a row's text, together
 constexpr int widest_column = 320; // pixels, when the rows are shown first
 
-/// A list in which Enter presses none of the dialog's buttons.
-class List : public QTableView {
-  public:
-    using QTableView::QTableView;
-
-  protected:
-    void keyPressEvent(QKeyEvent* event) override {
-        QTableView::keyPressEvent(event);
-        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-            event->accept();
-    }
-};
-
 QString text(const Session& session, Text text) {
     return base::to_qstring(session.language.text(text));
 }
@@ -55,7 +42,7 @@ TableForm::TableForm(const Kind& kind, const Session& session, QWidget* owner)
       session_(session),
       model_(new TableModel(headings(session, kind.columns), this)),
       sorted_(new QSortFilterProxyModel(this)),
-      list_(new List(this)),
+      list_(new QTableView(this)),
       count_(new QLabel(this)),
       buttons_(new QHBoxLayout) {
     setObjectName(base::from_utf8(kind.name));
@@ -69,6 +56,7 @@ TableForm::TableForm(const Kind& kind, const Session& session, QWidget* owner)
     list_->setSortingEnabled(true);
     list_->sortByColumn(-1, Qt::AscendingOrder); // as the rows come, until the user sorts them
     list_->setTabKeyNavigation(false);
+    list_->setLocale(QLocale::c()); // an identifier has no separators of thousands
     list_->setWordWrap(false);
     list_->verticalHeader()->hide();
     list_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + row_margin);
@@ -85,28 +73,55 @@ TableForm::TableForm(const Kind& kind, const Session& session, QWidget* owner)
     resize(initial_size);
     list_->setFocus();
 
+    close_button->setAutoDefault(false);
     connect(close_button, &QPushButton::clicked, this, &QDialog::reject);
     connect(list_, &QTableView::activated, this, [this](const QModelIndex& index) {
         emit activated(static_cast<std::size_t>(sorted_->mapToSource(index).row()));
     });
+    connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &TableForm::chosen_changed);
 }
 
 QPushButton* TableForm::add_button(const char* name, Text caption) {
     auto* button = new QPushButton(text(session_, caption), this);
     button->setObjectName(QString::fromLatin1(name));
+    button->setAutoDefault(false);
     buttons_->insertWidget(buttons_->count() - 1, button);
     return button;
 }
 
+/// Enter presses the button that has the focus, and none without it: elsewhere it is the list's.
+void TableForm::keyPressEvent(QKeyEvent* event) {
+    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    const bool is_enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (is_enter && button != nullptr)
+        button->click();
+    else
+        QDialog::keyPressEvent(event);
+}
+
+void TableForm::add_above(QLayout* entries) {
+    static_cast<QVBoxLayout*>(layout())->insertLayout(0, entries);
+}
+
+void TableForm::set_count(const QString& count) {
+    count_->setText(count);
+}
+
+void TableForm::make_current(int row) {
+    // The view's own way asks which keys are held, and the shortcut that led here still is.
+    list_->selectionModel()->setCurrentIndex(
+        sorted_->index(row, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
 void TableForm::show_rows(std::vector<Row> rows, const QString& count) {
-    const bool is_first = model_->rowCount() == 0;
     const int current = list_->currentIndex().row();
     model_->show_rows(std::move(rows));
-    count_->setText(count);
-    list_->setCurrentIndex(
-        sorted_->index(std::clamp(current, 0, std::max(sorted_->rowCount() - 1, 0)), 0));
-    if (!is_first)
+    set_count(count);
+    make_current(std::clamp(current, 0, std::max(sorted_->rowCount() - 1, 0)));
+    if (has_widths_ || sorted_->rowCount() == 0)
         return;
+    has_widths_ = true;
     list_->resizeColumnsToContents();
     for (int column = 0; column < model_->columnCount(); ++column)
         list_->setColumnWidth(column, std::min(list_->columnWidth(column), widest_column));

@@ -10,6 +10,7 @@
 
 class QHBoxLayout;
 class QLabel;
+class QLayout;
 class QPushButton;
 class QSortFilterProxyModel;
 class QTableView;
@@ -46,10 +47,19 @@ class TableForm : public QDialog {
   signals:
     /// A row was double-clicked, or Enter was pressed on it.
     void activated(std::size_t row);
+    void chosen_changed();
 
   protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
     /// Adds a button in front of the one that closes the dialog.
     QPushButton* add_button(const char* name, Text caption);
+    /// Adds what stands above the list.
+    void add_above(QLayout* entries);
+    void set_count(const QString& count);
+    /// Makes the row of the list, counted as it is sorted, the current and only chosen one.
+    void make_current(int row);
+    QTableView* list() const { return list_; }
     const Session& session() const { return session_; }
 
   private:
@@ -59,6 +69,7 @@ class TableForm : public QDialog {
     QTableView* list_;
     QLabel* count_;
     QHBoxLayout* buttons_;
+    bool has_widths_ = false; // of the columns, which the user may have changed since
 };
 
 } // namespace shell

@@ -1,5 +1,7 @@
 #include "data/run_time_error.h"
+#include "editor/combined_selection.h"
 #include "editor/selection.h"
+#include "editor/selection_history.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -68,6 +70,59 @@ TEST(SelectionText, IdentifiersAboveTheLastEndTheSelecting) {
 TEST(SelectionText, ClicksAppend) {
     EXPECT_EQ(editor::with_province("", 9), "9");
     EXPECT_EQ(editor::with_province("5", 9), "5;9");
+}
+
+TEST(CombinedSelection, IsNamedByItsShortestText) {
+    using enum editor::Combination;
+    const struct {
+        editor::Combination combination;
+        const char* selected;
+        const char* others;
+        const char* text;
+    } cases[] = {
+        {replace, "1-9", "20;5-6", "5;6;20"},
+        {add, "3-5;9", "4;6-7;10-11", "3-7;9-11"},
+        {remove, "1-9;12", "4;9-12", "1-3;5-8"},
+        {keep, "1-9;12", "4;9-12", "4;9;12"},
+        {keep, "1-9", "", ""},
+    };
+    for (const auto& each : cases) {
+        Selection selection;
+        Selection others;
+        selection.apply(each.selected);
+        others.apply(each.others);
+        EXPECT_EQ(editor::selection_text(editor::combined(selection.provinces(), others.provinces(),
+                                                          each.combination)),
+                  each.text);
+    }
+    Selection selection;
+    EXPECT_EQ(editor::selection_text(editor::inverted(selection.provinces())), "1-2018");
+    selection.apply("1;3-2016");
+    EXPECT_EQ(editor::selection_text(editor::inverted(selection.provinces())), "2;2017;2018");
+}
+
+TEST(SelectionHistory, GoesThroughTheLastSelections) {
+    editor::SelectionHistory history;
+    EXPECT_FALSE(history.has_earlier() || history.has_later());
+    for (const char* text : {"5", "6;7", "9"})
+        history.add(text, text);
+    EXPECT_EQ(history.go_back(), "6;7");
+    history.add("7;6", "6;7");
+    EXPECT_EQ(history.go_back(), "5");
+    EXPECT_FALSE(history.has_earlier());
+    EXPECT_EQ(history.go_forward(), "6;7");
+    EXPECT_EQ(history.go_forward(), "9");
+    EXPECT_FALSE(history.has_later());
+    history.go_back();
+    history.add("10", "10");
+    EXPECT_FALSE(history.has_later());
+    EXPECT_EQ(history.go_back(), "6;7");
+    for (int province = 1; province <= 1000; ++province)
+        history.add(std::to_string(province), std::to_string(province));
+    int steps = 0;
+    for (; history.has_earlier(); ++steps)
+        history.go_back();
+    EXPECT_EQ(steps, 199);
 }
 
 TEST(Changement, WritesTheSelectedRowsOnly) {
