@@ -1,16 +1,17 @@
 #include "base/stored_path.h"
 #include "map/form1.h"
 #include "map/map_image.h"
+#include "map/map_view.h"
 #include "map_colours.h"
 #include "shell/session.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <array>
 #include <benchmark/benchmark.h>
 #include <fstream>
@@ -98,6 +99,8 @@ class RandomPlace {
     std::mt19937 random_{1};
 };
 
+constexpr auto unit = benchmark::kMillisecond;
+
 /// Stands before the others: memory that they gave back would serve it, and not be counted.
 void memory_of_three_maps(benchmark::State& state) {
     const auto session = session_with_maps();
@@ -112,10 +115,14 @@ void memory_of_three_maps(benchmark::State& state) {
         session->selection.apply("1-2018");
         window->selection_or_mode_changed();
         QCoreApplication::processEvents();
+        for (int power = map::ZoomLevel::smallest; power <= map::ZoomLevel::largest; ++power) {
+            window->view().set_level(map::ZoomLevel(power));
+            QCoreApplication::processEvents();
+        }
         state.counters["MB"] = memory() - before;
     }
 }
-BENCHMARK(memory_of_three_maps)->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK(memory_of_three_maps)->Unit(unit)->Iterations(1);
 
 void open_three_maps(benchmark::State& state) {
     const auto session = session_with_maps();
@@ -123,35 +130,99 @@ void open_three_maps(benchmark::State& state) {
     for ([[maybe_unused]] auto _ : state)
         shown_window(*session);
 }
-BENCHMARK(open_three_maps)->Unit(benchmark::kMillisecond);
+BENCHMARK(open_three_maps)->Unit(unit);
 
+/// Gives every province a city somewhere on the map.
+void place_cities(data::ProvinceTable& provinces) {
+    std::mt19937 random(1);
+    for (int province = 1; province <= data::last_province; ++province) {
+        provinces.load(province, data::table_column(data::column::city_x),
+                       std::to_string(random() % map_width));
+        provinces.load(province, data::table_column(data::column::city_y),
+                       std::to_string(random() % map_height));
+    }
+}
+
+/// The argument is the zoom level's power of two.
 void paint_a_random_place(benchmark::State& state, const char* selection, map::Mode mode) {
     const auto session = session_with_maps();
     session->selection.apply(selection);
     session->mode = mode;
-    std::mt19937 random(1);
-    for (int province = 1; province <= data::last_province; ++province) {
-        session->provinces.load(province, data::table_column(data::column::city_x),
-                                std::to_string(random() % map_width));
-        session->provinces.load(province, data::table_column(data::column::city_y),
-                                std::to_string(random() % map_height));
-    }
+    place_cities(session->provinces);
     const auto window = shown_window(*session);
-    auto* area = window->findChild<QScrollArea*>();
+    window->view().set_level(map::ZoomLevel(static_cast<int>(state.range(0))));
+    QCoreApplication::processEvents();
     RandomPlace place;
     for ([[maybe_unused]] auto _ : state) {
-        const QPoint corner = place.next();
-        area->horizontalScrollBar()->setValue(corner.x());
-        area->verticalScrollBar()->setValue(corner.y());
+        window->view().centre_on(place.next());
+        window->view().repaint_maps(); // a map that is smaller than the view does not move
         QCoreApplication::processEvents();
     }
 }
-BENCHMARK_CAPTURE(paint_a_random_place, map_alone, "", map::Mode::normal)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(paint_a_random_place, all_dots, "1-2018", map::Mode::normal)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(paint_a_random_place, city_markers, "", map::Mode::ville)
-    ->Unit(benchmark::kMillisecond);
+void all_levels(benchmark::internal::Benchmark* bench) {
+    bench->Unit(unit)
+        ->Arg(0)
+        ->DenseRange(map::ZoomLevel::smallest, -1)
+        ->DenseRange(1, map::ZoomLevel::largest);
+}
+BENCHMARK_CAPTURE(paint_a_random_place, map_alone, "", map::Mode::normal)->Apply(all_levels);
+BENCHMARK_CAPTURE(paint_a_random_place, all_dots, "1-2018", map::Mode::normal)->Apply(all_levels);
+BENCHMARK_CAPTURE(paint_a_random_place, city_markers, "", map::Mode::ville)->Apply(all_levels);
+
+/// From a level to the next smaller one, whose power of two is the argument, or back; with all
+/// dots.
+void zoom_step_to_painted(benchmark::State& state) {
+    const auto session = session_with_maps();
+    session->selection.apply("1-2018");
+    const auto window = shown_window(*session);
+    window->view().centre_on({map_width / 2, map_height / 2});
+    const int power = static_cast<int>(state.range(0));
+    int step = 0;
+    for ([[maybe_unused]] auto _ : state) {
+        window->view().set_level(map::ZoomLevel(power + step));
+        step = 1 - step;
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(zoom_step_to_painted)
+    ->Unit(unit)
+    ->DenseRange(map::ZoomLevel::smallest, map::ZoomLevel::largest - 1);
+
+/// What painting costs without a window: the argument is the zoom level's power of two.
+void read_a_view(benchmark::State& state) {
+    const map::MapImage image(world().maps().map_1_path);
+    const map::ZoomLevel level(static_cast<int>(state.range(0)));
+    QImage strip(view.width(), 32, QImage::Format_RGB32);
+    RandomPlace place;
+    for ([[maybe_unused]] auto _ : state) {
+        const QPoint corner = place.next() / level.step();
+        const int end_y = std::min(corner.y() + view.height(), level.shown_length(map_height));
+        const int end_x = std::min(corner.x() + view.width(), level.shown_length(map_width));
+        map::MapReader reader(image);
+        for (int y = corner.y(); y < end_y; y += strip.height())
+            reader.read(
+                {QPoint(corner.x(), y), QPoint(end_x - 1, std::min(y + strip.height(), end_y) - 1)},
+                level, strip);
+    }
+}
+BENCHMARK(read_a_view)->Apply(all_levels);
+
+/// What no painting at level 1 can do without: the bytes of a view.
+void plain_reads_of_a_view(benchmark::State& state) {
+    QFile file(base::native_path(world().maps().map_1_path));
+    file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    constexpr qint64 bytes_per_row = 3 * map_width;
+    std::vector<char> row(3 * static_cast<std::size_t>(view.width()));
+    RandomPlace place;
+    for ([[maybe_unused]] auto _ : state) {
+        const QPoint corner = place.next();
+        for (int y = corner.y(); y < corner.y() + view.height(); ++y) {
+            file.seek(54 + y * bytes_per_row + 3 * corner.x());
+            benchmark::DoNotOptimize(file.read(row.data(), static_cast<qint64>(row.size())));
+        }
+    }
+}
+BENCHMARK(plain_reads_of_a_view)->Unit(unit);
 
 void province_under_the_pointer(benchmark::State& state) {
     const map::MapImage image(world().maps().id_map_path);
@@ -176,7 +247,7 @@ void dots_of_all_provinces(benchmark::State& state) {
         benchmark::DoNotOptimize(dots.has_dot(0, 0));
     }
 }
-BENCHMARK(dots_of_all_provinces)->Unit(benchmark::kMillisecond);
+BENCHMARK(dots_of_all_provinces)->Unit(unit);
 
 void send(QWidget* surface, QEvent::Type type, QPoint point, Qt::MouseButtons held) {
     QMouseEvent event(type, point, surface->mapToGlobal(point), Qt::LeftButton, held,
@@ -200,6 +271,6 @@ void click_to_dots_painted(benchmark::State& state) {
         QCoreApplication::processEvents();
     }
 }
-BENCHMARK(click_to_dots_painted)->Unit(benchmark::kMillisecond);
+BENCHMARK(click_to_dots_painted)->Unit(unit);
 
 } // namespace

@@ -90,7 +90,7 @@ void paint_overlay(benchmark::State& state, Mode mode, QSize spread) {
     for ([[maybe_unused]] auto _ : state) {
         QPainter painter(&surface);
         painter.translate(-exposed.topLeft());
-        preview.ajout_graph(painter, exposed, 1000);
+        preview.ajout_graph(painter, exposed, {}, 1000);
     }
 }
 

@@ -69,7 +69,7 @@ class OverlayPreviewTest : public testing::Test {
         surface.fill(ground);
         QPainter painter(&surface);
         painter.setClipRect(exposed);
-        preview.ajout_graph(painter, exposed, pointed_province);
+        preview.ajout_graph(painter, exposed, level, pointed_province);
         return surface;
     }
 
@@ -90,6 +90,7 @@ class OverlayPreviewTest : public testing::Test {
     support::Folder folder;
     shell::Session session;
     map::OverlayPreview preview{session};
+    map::ZoomLevel level;
     QStringList problems;
 };
 
@@ -124,9 +125,9 @@ TEST_F(OverlayPreviewTest, SpriteStandsWithItsOriginOnThePosition) {
         EXPECT_EQ(surface.pixel(point), red);
     EXPECT_EQ(surface.pixel(54, 40), ground); // the second frame is not drawn
     EXPECT_TRUE(problems.isEmpty());
-    EXPECT_TRUE(preview.bounds(1).contains(QRect(48, 33, 6, 10)));
-    EXPECT_TRUE(preview.bounds(3).isEmpty());
-    EXPECT_TRUE(preview.bounds(-1).isEmpty());
+    EXPECT_TRUE(preview.bounds(1, {}).contains(QRect(48, 33, 6, 10)));
+    EXPECT_TRUE(preview.bounds(3, {}).isEmpty());
+    EXPECT_TRUE(preview.bounds(-1, {}).isEmpty());
 }
 
 TEST_F(OverlayPreviewTest, EveryModeShowsItsOwnKind) {
@@ -252,7 +253,7 @@ TEST_F(OverlayPreviewTest, FilesAreLookedAtOncePerPainting) {
     QImage surface(view, QImage::Format_RGB32);
     surface.fill(ground);
     QPainter painter(&surface);
-    preview.ajout_graph(painter, QRegion(0, 0, 40, 40) + QRegion(40, 40, 40, 40), -1);
+    preview.ajout_graph(painter, QRegion(0, 0, 40, 40) + QRegion(40, 40, 40, 40), {}, -1);
     painter.end();
     EXPECT_EQ(covered(surface), marker(20, 20) | marker(60, 60));
     EXPECT_EQ(painted().pixel(60, 61), red);
@@ -269,7 +270,30 @@ TEST_F(OverlayPreviewTest, PointedProvinceIsOutlinedWithinItsBounds) {
     EXPECT_EQ(pointed.copy(20, 20, 4, 4), plain.copy(20, 20, 4, 4));
     const QRect outlined = covered(pointed.copy(0, 0, 50, 80));
     EXPECT_TRUE(outlined.contains(QRect(19, 19, 6, 6)));
-    EXPECT_EQ(preview.bounds(1), outlined); // what is repainted when the pointer moves on
+    EXPECT_EQ(preview.bounds(1, {}), outlined); // what is repainted when the pointer moves on
+}
+
+TEST_F(OverlayPreviewTest, GraphicsGrowAndShrinkWithTheMapButCanBeSeen) {
+    save(sprite(20, 40, red), "b.bmp"); // its top row is transparent
+    load_sprite(SpriteKind::ville, "b.bmp", 10, 40, 1);
+    const struct {
+        int power;
+        const char* x; // so that the position is shown at (50, 60)
+        const char* y;
+        QRect picture;
+    } rows[] = {{1, "25", "30", {30, -18, 40, 78}},
+                {0, "50", "60", {40, 21, 20, 39}},
+                {-1, "100", "120", {45, 40, 10, 20}},
+                {-2, "200", "240", {47, 50, 5, 10}},
+                {-5, "1600", "1920", {48, 52, 4, 8}}};
+    for (const auto& row : rows) {
+        level = map::ZoomLevel(row.power);
+        place(1, city_x, row.x, row.y);
+        EXPECT_EQ(covered(painted()), row.picture & QRect({0, 0}, view)) << row.power;
+        EXPECT_TRUE(preview.bounds(1, level).contains(row.picture)) << row.power;
+        const QRect edge(row.picture.right(), 0, 5, view.height());
+        EXPECT_FALSE(covered(painted(edge)).isEmpty()) << row.power << ", reaching into a part";
+    }
 }
 
 TEST_F(OverlayPreviewTest, PortShowsItsSeaAndThatItWaitsForOne) {
@@ -284,7 +308,7 @@ TEST_F(OverlayPreviewTest, PortShowsItsSeaAndThatItWaitsForOne) {
     const QImage with_sea = painted();
     const QRect label = covered(with_sea.copy(27, 0, 73, 80)).translated(27, 0);
     EXPECT_TRUE(label.top() > 10 && label.bottom() < 30 && label.width() > 15);
-    EXPECT_TRUE(preview.bounds(1).contains(label));
+    EXPECT_TRUE(preview.bounds(1, {}).contains(label));
     // The port's label alone reaches into this rectangle.
     const QRect strip(label.right() - 3, 0, 10, 80);
     EXPECT_EQ(covered(painted(strip)), label & strip);

@@ -6,22 +6,62 @@
 #include <QRegion>
 
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace {
 
-TEST(Picture, PaintsEveryRowOfWhatIsExposed) {
+using map::ZoomLevel;
+
+/// Returns the pixel that is shown at the point (shown pixels): a single one, or below level 1 the
+/// mean of four, unless single ones are wanted.
+QRgb expected(const QImage& whole, QPoint shown, ZoomLevel level, bool single) {
+    const QPoint first(level.on_map(shown.x()), level.on_map(shown.y()));
+    if (single || level.step() == 1)
+        return whole.pixel(first);
+    int sums[] = {0, 0, 0};
+    for (const QPoint corner : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1), QPoint(1, 1)}) {
+        QPoint point = first + corner * level.step() / 2;
+        point.setX(point.x() < whole.width() ? point.x() : first.x());
+        point.setY(point.y() < whole.height() ? point.y() : first.y());
+        const QRgb pixel = whole.pixel(point);
+        for (const auto& [sum, part] :
+             {std::pair{0, qRed(pixel)}, {1, qGreen(pixel)}, {2, qBlue(pixel)}})
+            sums[sum] += part;
+    }
+    return qRgb(sums[0] / 4, sums[1] / 4, sums[2] / 4);
+}
+
+TEST(Picture, PaintsEveryPixelOfWhatIsExposedAtEveryLevel) {
     const support::Folder folder;
-    const map::MapImage image(folder.write("map.bmp", bitmaps::noise({50, 100})));
+    const map::MapImage image(folder.write("map.bmp", bitmaps::noise({50, 101})));
     QImage whole(image.size(), QImage::Format_RGB32);
     map::MapReader(image).read(whole.rect(), {}, whole);
     map::Picture picture(
         image, [](QPainter&, const QRegion&) {}, nullptr);
-    for (const QRect& part : {QRect(0, 0, 50, 100), QRect(3, 5, 40, 64), QRect(0, 31, 50, 1),
-                              QRect(7, 9, 9, 33), QRect(49, 99, 1, 1)}) {
-        QImage painted(part.size(), QImage::Format_RGB32);
-        painted.fill(Qt::white);
-        picture.render(&painted, {}, part, {});
-        EXPECT_EQ(painted, whole.copy(part)) << part.top() << ' ' << part.height();
+    for (int power = ZoomLevel::smallest; power <= ZoomLevel::largest; ++power) {
+        const ZoomLevel level(power);
+        picture.set_level(level);
+        for (const QRect& area : {QRect(0, 0, 50, 101), QRect(3, 5, 40, 64), QRect(0, 31, 50, 1),
+                                  QRect(7, 9, 9, 33), QRect(49, 99, 1, 1)}) {
+            const QRect part =
+                area.translated(power > 0 ? QPoint(1, 1) : QPoint()) & picture.rect();
+            if (part.isEmpty())
+                continue;
+            QImage painted(part.size(), QImage::Format_RGB32);
+            painted.fill(Qt::white);
+            picture.render(&painted, {}, part, {});
+            QImage samples(part.size(), QImage::Format_RGB32);
+            map::MapReader(image).read_samples(part, level, samples);
+            for (int y = 0; y < part.height(); ++y) {
+                for (int x = 0; x < part.width(); ++x) {
+                    const QPoint at = part.topLeft() + QPoint(x, y);
+                    ASSERT_EQ(painted.pixel(x, y), expected(whole, at, level, false))
+                        << power << ' ' << x << ' ' << y;
+                    ASSERT_EQ(samples.pixel(x, y), expected(whole, at, level, true))
+                        << power << ' ' << x << ' ' << y;
+                }
+            }
+        }
     }
 }
 
