@@ -42,9 +42,9 @@ std::string selection_text(std::span<const int> provinces) {
         while (end != provinces.end() && *end == *(end - 1) + 1)
             ++end;
         const auto count = end - first;
-        text += (text.empty() ? "" : ";") + std::to_string(*first);
+        text.append(text.empty() ? "" : ";").append(std::to_string(*first));
         if (count > 1) // two neighbours are as short as a range
-            text += (count == 2 ? ";" : "-") + std::to_string(*(end - 1));
+            text.append(count == 2 ? ";" : "-").append(std::to_string(*(end - 1)));
         first = end;
     }
     return text;

@@ -113,13 +113,19 @@ TEST_F(Search, BeginsWithTheFieldThatHasTheFocus) {
     find();
     EXPECT_EQ(asked(), "Province name (Name)|equals|Typed");
     EXPECT_EQ(listed(), "5 Typed Typed, 6 Typed Typed, ");
-    for (const char* name : {"tot(0)", "océan(1)", "culture", "férocité_s", "rivière2"}) {
+    const std::pair<const char*, const char*> fields[] = {
+        {"tot(0)", "Treaty of Tordesillas (ToT-SPA, ToT-POR)|equals|None"},
+        {"océan(1)", "Storms (Storm?)|equals|"},
+        {"culture", "Culture|equals|"},
+        {"férocité_s", "Native ferocity (Ferocity)|equals|"},
+        {"rivière2", "Adjacent rivers (id) 3 (Extra River Desc Link 3)|equals|"}};
+    for (const auto& [name, begun] : fields) {
         come_back();
         visible(name).setFocus();
         find();
-        EXPECT_TRUE(listed() == "2018") << name << asked();
+        EXPECT_EQ(asked(), begun);
+        EXPECT_EQ(listed(), "2018") << name;
     }
-    EXPECT_EQ(asked(), "Adjacent rivers (id) 3 (Extra River Desc Link 3)|equals|");
 }
 
 TEST_F(Search, FieldsAreChosenByTypingTheirHeaderToo) {
@@ -143,6 +149,21 @@ TEST_F(Search, FieldsAreChosenByTypingTheirHeaderToo) {
         EXPECT_EQ(in_form<QComboBox>("comparison").currentText().toStdString(), chosen);
     }
     EXPECT_EQ(listed(), "2017");
+
+    load(5, 12, "9");
+    load(6, 12, "10");
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_T, Qt::AltModifier);
+    write("1");
+    press(Qt::Key_F, Qt::AltModifier);
+    write("income");
+    press(Qt::Key_Return);
+    wait_for_form();
+    auto& header = *in_form<QTableView>("résultats").horizontalHeader();
+    QTest::mouseClick(header.viewport(), Qt::LeftButton, {},
+                      {header.sectionViewportPosition(2) + 8, 5});
+    EXPECT_EQ(listed(), "5  9, 6  10, ") << "by their size";
 }
 
 TEST_F(Search, GoesOnWhenTheMapsAndTheTableChangeBelow) {
