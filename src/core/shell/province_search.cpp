@@ -73,7 +73,7 @@ class Matcher {
         case Comparison::differs:
             return data::equal_ignoring_case(value, search_.text);
         case Comparison::is_empty:
-            return is_blank(value);
+            return data::is_blank(value);
         case Comparison::less:
             return are_numbers(value) && data::leading_number(value) < number_;
         case Comparison::greater:

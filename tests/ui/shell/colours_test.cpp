@@ -29,7 +29,10 @@ class Colours : public support::MainFrame {
     }
 
     void colour_by(const std::string& item) const {
-        choose("carte", "colorer");
+        come_back();
+        QTest::mouseClick(frame->menuBar(), Qt::LeftButton, {},
+                          frame->menuBar()->actionGeometry(&action("carte")).center());
+        QTest::keyClick(action("carte").menu(), Qt::Key_B); // "Colour &by"
         auto* menu = action("colorer").menu();
         ASSERT_TRUE(menu->isVisible());
         QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(&action(item)).center());
