@@ -1,4 +1,5 @@
 #include "base/stored_path.h"
+#include "map/field_colours.h"
 #include "map/form1.h"
 #include "map/map_image.h"
 #include "map/map_view.h"
@@ -143,21 +144,25 @@ void place_cities(data::ProvinceTable& provinces) {
     }
 }
 
-/// The argument is the zoom level's power of two.
+/// At the level whose power of two is the argument.
+void paint_random_places(benchmark::State& state, map::Form1& window) {
+    window.view().set_level(map::ZoomLevel(static_cast<int>(state.range(0))));
+    QCoreApplication::processEvents();
+    RandomPlace place;
+    for ([[maybe_unused]] auto _ : state) {
+        window.view().centre_on(place.next());
+        window.view().repaint_maps(); // a map that is smaller than the view does not move
+        QCoreApplication::processEvents();
+    }
+}
+
 void paint_a_random_place(benchmark::State& state, const char* selection, map::Mode mode) {
     const auto session = session_with_maps();
     session->selection.apply(selection);
     session->mode = mode;
     place_cities(session->provinces);
     const auto window = shown_window(*session);
-    window->view().set_level(map::ZoomLevel(static_cast<int>(state.range(0))));
-    QCoreApplication::processEvents();
-    RandomPlace place;
-    for ([[maybe_unused]] auto _ : state) {
-        window->view().centre_on(place.next());
-        window->view().repaint_maps(); // a map that is smaller than the view does not move
-        QCoreApplication::processEvents();
-    }
+    paint_random_places(state, *window);
 }
 void all_levels(benchmark::internal::Benchmark* bench) {
     bench->Unit(unit)
@@ -168,6 +173,41 @@ void all_levels(benchmark::internal::Benchmark* bench) {
 BENCHMARK_CAPTURE(paint_a_random_place, map_alone, "", map::Mode::normal)->Apply(all_levels);
 BENCHMARK_CAPTURE(paint_a_random_place, all_dots, "1-2018", map::Mode::normal)->Apply(all_levels);
 BENCHMARK_CAPTURE(paint_a_random_place, city_markers, "", map::Mode::ville)->Apply(all_levels);
+
+std::shared_ptr<const map::FieldColours> colours_by_culture(const data::ProvinceTable& provinces) {
+    const std::vector<std::string> codes(109, "none"); // those below are none of them
+    return std::make_shared<map::FieldColours>(
+        provinces, editor::fields[data::field_number(data::column::culture)], codes, "5");
+}
+
+void give_cultures(data::ProvinceTable& provinces, int first) {
+    for (int province = 1; province <= data::last_province; ++province)
+        provinces.write(province, data::table_column(data::column::culture),
+                        "culture" + std::to_string((province + first) % 109));
+}
+
+void paint_a_random_place_coloured(benchmark::State& state) {
+    const auto session = session_with_maps();
+    give_cultures(session->provinces, 0);
+    const auto window = shown_window(*session);
+    window->colour(colours_by_culture(session->provinces));
+    paint_random_places(state, *window);
+}
+BENCHMARK(paint_a_random_place_coloured)->Apply(all_levels);
+
+void recolour_after_an_edit_of_all_provinces(benchmark::State& state) {
+    const auto session = session_with_maps();
+    const auto window = shown_window(*session);
+    int first = 0;
+    for ([[maybe_unused]] auto _ : state) {
+        state.PauseTiming();
+        give_cultures(session->provinces, ++first);
+        state.ResumeTiming();
+        window->colour(colours_by_culture(session->provinces));
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(recolour_after_an_edit_of_all_provinces)->Unit(unit);
 
 /// From a level to the next smaller one, whose power of two is the argument, or back; with all
 /// dots.

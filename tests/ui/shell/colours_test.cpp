@@ -45,7 +45,7 @@ class Colours : public support::MainFrame {
     /// Returns the colour of a religion's code on the map.
     QRgb shown(std::size_t code) const {
         const QColor colour = QColor::fromRgb(map::code_colour(code));
-        const double part = (154 + std::floor(qGray(paper) * 102 / 256.0)) / 256;
+        const double part = (154.0 + (0xE0 + 2 * 0xD0 + 0xC0) / 4 * 102 / 256) / 256;
         return qRgb(static_cast<int>(colour.red() * part), static_cast<int>(colour.green() * part),
                     static_cast<int>(colour.blue() * part));
     }
