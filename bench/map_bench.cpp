@@ -12,7 +12,6 @@
 #include <QPainter>
 #include <QTemporaryDir>
 
-#include <algorithm>
 #include <array>
 #include <benchmark/benchmark.h>
 #include <fstream>
@@ -233,16 +232,16 @@ void read_a_view(benchmark::State& state) {
     const map::MapImage image(world().maps().map_1_path);
     const map::ZoomLevel level(static_cast<int>(state.range(0)));
     QImage strip(view.width(), 32, QImage::Format_RGB32);
+    const QRect map(0, 0, level.shown_length(map_width), level.shown_length(map_height));
     RandomPlace place;
     for ([[maybe_unused]] auto _ : state) {
-        const QPoint corner = place.next() / level.step();
-        const int end_y = std::min(corner.y() + view.height(), level.shown_length(map_height));
-        const int end_x = std::min(corner.x() + view.width(), level.shown_length(map_width));
+        const QPoint corner =
+            map.contains(QRect({0, 0}, view)) ? place.next() / level.step() : QPoint();
+        const QRect shown = QRect(corner, view) & map;
         map::MapReader reader(image);
-        for (int y = corner.y(); y < end_y; y += strip.height())
-            reader.read(
-                {QPoint(corner.x(), y), QPoint(end_x - 1, std::min(y + strip.height(), end_y) - 1)},
-                level, strip);
+        for (int y = shown.top(); y <= shown.bottom(); y += strip.height())
+            reader.read(QRect(shown.left(), y, shown.width(), strip.height()) & shown, level,
+                        strip);
     }
 }
 BENCHMARK(read_a_view)->Apply(all_levels);

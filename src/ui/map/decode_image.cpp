@@ -39,6 +39,37 @@ void check_size(QSize size) {
                           " MB were expected; an uncompressed bitmap needs none");
 }
 
+/// Makes 256 opaque colours of those that the image has.
+void complete_colours(QImage& image) {
+    constexpr QRgb opaque = 0xFF000000;
+    QList<QRgb> colours = image.colorTable();
+    for (QRgb& colour : colours)
+        colour |= opaque;
+    colours.resize(256, opaque);
+    image.setColorTable(colours);
+}
+
+QList<QRgb> greys() {
+    QList<QRgb> colours;
+    for (int grey = 0; grey < 256; ++grey)
+        colours += qRgb(grey, grey, grey);
+    return colours;
+}
+
+/// Leaves of the many forms of pixels the two that readers know; null when memory lacks.
+void simplify(QImage& image) {
+    if (image.format() == QImage::Format_Grayscale8) {
+        image.reinterpretAsFormat(QImage::Format_Indexed8);
+        image.setColorTable(greys());
+    } else if (image.colorCount() > 0) {
+        image.convertTo(QImage::Format_Indexed8);
+        if (!image.isNull())
+            complete_colours(image);
+    } else {
+        image.convertTo(QImage::Format_RGB32);
+    }
+}
+
 QImage decode(const std::string& file) {
     QImageReader::setAllocationLimit(0); // maps are larger than what Qt takes for reasonable
     const auto bytes = QByteArray::fromRawData(file.data(), static_cast<qsizetype>(file.size()));
@@ -53,7 +84,7 @@ QImage decode(const std::string& file) {
                           base::to_bytes(reader.errorString()) + ")");
     const QSize size = image.size();
     check_size(size); // not every format tells it before
-    image.convertTo(QImage::Format_RGB32);
+    simplify(image);
     if (image.isNull())
         throw too_large(size);
     return image;

@@ -22,12 +22,12 @@ int shown_dot_size(ZoomLevel level) {
     return std::max(level.shown_length(dot_size), smallest_size);
 }
 
-QImage draw_image() {
-    QImage image(dot_size, dot_size, QImage::Format_ARGB32_Premultiplied);
+QImage draw_image(int size) {
+    QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    painter.setPen(QPen(Qt::black, dot_size, Qt::SolidLine, Qt::RoundCap));
-    painter.drawPoint(QPointF(dot_size, dot_size) / 2);
+    painter.setPen(QPen(Qt::black, size, Qt::SolidLine, Qt::RoundCap));
+    painter.drawPoint(QPointF(size, size) / 2);
     return image;
 }
 
@@ -36,8 +36,8 @@ const QImage& dot_image(ZoomLevel level) {
     static const auto images = [] {
         std::array<QImage, levels> made;
         for (int i = 0; i < levels; ++i) {
-            const int size = shown_dot_size(ZoomLevel(ZoomLevel::smallest + i));
-            made.at(static_cast<std::size_t>(i)) = draw_image().scaled(size, size);
+            const ZoomLevel made_for(ZoomLevel::smallest + i);
+            made.at(static_cast<std::size_t>(i)) = draw_image(shown_dot_size(made_for));
         }
         return made;
     }();

@@ -1,10 +1,12 @@
 #include "map/form1.h"
 
 #include "base/messages.h"
+#include "base/shown_text.h"
 #include "data/numbers.h"
 #include "map/coloured_strips.h"
 #include "map/dots.h"
 #include "map/map_view.h"
+#include "shell/error_text.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -100,6 +102,34 @@ void Form1::colour(std::shared_ptr<const FieldColours> colours) {
 void Form1::graphics_changed() {
     told_.clear();
     clear_graphique();
+}
+
+void Form1::follow_files() {
+    told_.clear();
+    bool changed = false;
+    const auto follow = [&](MapImage& image) { changed = follow_file(image) || changed; };
+    follow(map_1_);
+    if (map_2_)
+        follow(*map_2_);
+    follow(id_map_);
+    if (changed) {
+        view_->take_sizes();
+        work_out_dots();
+        emit reloaded();
+    } else if (session_.mode != Mode::normal) {
+        clear_graphique(); // it looks after the files of the graphics
+    }
+}
+
+/// Returns whether the map's file was changed; one that cannot be read now stays as far as it can.
+bool Form1::follow_file(MapImage& image) {
+    try {
+        return image.follow_file();
+    } catch (const data::RunTimeError& error) {
+        tell(base::message_text(session_.language.text(shell::words_of(error.number())) + ": " +
+                                error.place()));
+        return true;
+    }
 }
 
 void Form1::tell(const QString& reason) {

@@ -51,6 +51,9 @@ class Form1 : public QWidget {
     /// Colours the maps from now on; not at all without colours.
     void colour(std::shared_ptr<const FieldColours> colours);
 
+    /// Shows anew what other programs have changed of the files of the maps and the graphics.
+    void follow_files();
+
     /// Redraws the maps for other graphics, or another choice among them.
     void graphics_changed();
 
@@ -62,6 +65,8 @@ class Form1 : public QWidget {
     void province_clicked(int identifier, bool add, const std::string& place);
     /// Why a map or a graphic cannot be shown; once until mode, maps or graphics change.
     void problem(const QString& text);
+    /// The files of maps were changed, and the maps are read from them anew.
+    void reloaded();
     /// Tab, or Shift+Tab when not `forward`, is to move the focus out of the map.
     void tabbed(bool forward);
 
@@ -81,6 +86,7 @@ class Form1 : public QWidget {
     void enter_position(const QMouseEvent& event, int province);
     std::optional<IdMapPoint> id_map_point(const QPointF& position);
     QRect shown_graphics(int province) const;
+    bool follow_file(MapImage& image);
     void work_out_dots();
     void show_foreign_point(const ForeignPoint& point);
     void draw_above(QPainter& painter, const QRegion& exposed);

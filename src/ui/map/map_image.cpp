@@ -5,6 +5,7 @@
 #include "base/stored_path.h"
 #include "data/run_time_error.h"
 #include "map/decode_image.h"
+#include "map/wait_cursor.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -12,6 +13,10 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
 
 namespace map {
 
@@ -27,6 +32,35 @@ constexpr const char* ends_early = "the file ends before the pixels of row %1";
 
 QSize size_of(const BitmapLayout& layout) {
     return {layout.width, layout.height};
+}
+
+/// Fills `pixels` with the row's pixels first_x, first_x + step, and so on of a decoded image.
+void copy_pixels(const QImage& image, int y, int first_x, int step, std::span<Pixel> pixels) {
+    const uchar* row = image.constScanLine(y);
+    const auto fill = [=](auto pixel_at) {
+        for (qsizetype x = first_x; Pixel & pixel : pixels) {
+            pixel = pixel_at(x);
+            x += step;
+        }
+    };
+    if (image.format() == QImage::Format_Indexed8) {
+        const QList<QRgb> colours = image.colorTable();
+        fill([&](qsizetype x) { return colours[row[x]]; });
+    } else {
+        const auto* wide_row = reinterpret_cast<const Pixel*>(row);
+        fill([=](qsizetype x) { return wide_row[x]; });
+    }
+}
+
+/// Reads the bytes at that place of the file; false unless all are there.
+bool read_at(QFile& file, std::uint64_t begin, std::span<char> bytes) {
+    const auto size = static_cast<qint64>(bytes.size());
+#ifdef Q_OS_UNIX
+    // A painting reads a thousand rows: one call of the system for each, not two.
+    if (::pread(file.handle(), bytes.data(), bytes.size(), static_cast<off_t>(begin)) == size)
+        return true;
+#endif
+    return file.seek(static_cast<qint64>(begin)) && file.read(bytes.data(), size) == size;
 }
 
 std::span<Pixel> row_of(QImage& image, int row, int width) {
@@ -49,7 +83,9 @@ void mean_of_four(std::span<const Pixel> upper, std::span<const Pixel> lower,
 } // namespace
 
 MapImage::MapImage(std::string_view path)
-    : file_name_(base::native_path(path)), head_(base::read_file(path, bitmap_head_size)) {
+    : file_(std::string(path)),
+      file_name_(base::native_path(path)),
+      head_(base::read_file(path, bitmap_head_size)) {
     std::optional<BitmapLayout> layout;
     try {
         const auto file_size = static_cast<std::uint64_t>(QFileInfo(file_name_).size());
@@ -61,9 +97,17 @@ MapImage::MapImage(std::string_view path)
         layout_ = std::move(*layout);
         size_ = size_of(layout_);
     } else {
+        const WaitCursor wait;
         decoded_ = decode_image(path);
         size_ = decoded_.size();
     }
+}
+
+bool MapImage::follow_file() {
+    if (!file_.has_changed())
+        return false;
+    *this = MapImage(std::string(file_.path()));
+    return true;
 }
 
 MapReader::MapReader(const MapImage& image) : image_(image) {
@@ -121,12 +165,7 @@ std::optional<Colour> MapReader::colour_at(QPoint point) {
 
 bool MapReader::read_pixels(int y, int first_x, int step, std::span<Pixel> pixels) {
     if (!image_.decoded_.isNull()) {
-        const auto* row =
-            reinterpret_cast<const Pixel*>(image_.decoded_.constScanLine(y)) + first_x;
-        for (Pixel& pixel : pixels) {
-            pixel = *row;
-            row += step;
-        }
+        copy_pixels(image_.decoded_, y, first_x, step, pixels);
         return true;
     }
     if (layout_ == nullptr)
@@ -134,9 +173,7 @@ bool MapReader::read_pixels(int y, int first_x, int step, std::span<Pixel> pixel
     const int last_x = first_x + step * (static_cast<int>(pixels.size()) - 1);
     const FilePart part = part_of_row(*layout_, y, first_x, last_x);
     bytes_.resize(part.size);
-    if (!file_.seek(static_cast<qint64>(part.begin)) ||
-        file_.read(bytes_.data(), static_cast<qint64>(part.size)) !=
-            static_cast<qint64>(part.size)) {
+    if (!read_at(file_, part.begin, bytes_)) {
         note_problem(QString::fromLatin1(ends_early).arg(y));
         return false;
     }
@@ -156,9 +193,8 @@ bool MapReader::read_row(int y, int first_x, int step, std::span<Pixel> pixels) 
     return readable;
 }
 
-/// Reads row y with every pixel as wide as the level shows it.
-bool MapReader::read_enlarged_row(int y, int first_shown_x, ZoomLevel level,
-                                  std::span<Pixel> shown) {
+/// Reads what the level shows of row y, every pixel alone.
+bool MapReader::read_shown_row(int y, int first_shown_x, ZoomLevel level, std::span<Pixel> shown) {
     if (level.enlargement() == 1)
         return read_row(y, level.on_map(first_shown_x), level.step(), shown);
     const int first_x = level.on_map(first_shown_x);
@@ -171,53 +207,57 @@ bool MapReader::read_enlarged_row(int y, int first_shown_x, ZoomLevel level,
     return readable;
 }
 
-/// Reads a row of shown pixels, each the mean of four pixels of the image: two of each of two rows.
-bool MapReader::read_mean_row(int shown_y, int first_shown_x, ZoomLevel level,
-                              std::span<Pixel> shown) {
-    const int half = level.step() / 2;
-    const int y = level.on_map(shown_y);
-    const int x = level.on_map(first_shown_x);
-    const auto read_pairs = [&](int row, std::vector<Pixel>& pixels) {
-        pixels.resize(2 * shown.size());
-        const bool readable = read_row(row, x, half, pixels);
-        if (pixels.back() == no_pixel) // beyond the right edge
-            pixels.back() = pixels[pixels.size() - 2];
-        return readable;
-    };
-    if (!read_pairs(y, row_))
-        return false;
-    const bool has_other = y + half < image_.size_.height() && read_pairs(y + half, other_row_);
-    mean_of_four(row_, has_other ? other_row_ : row_, shown);
-    return true;
+/// Reads two pixels of row y for every shown one.
+bool MapReader::read_pairs(int y, int first_shown_x, ZoomLevel level, std::vector<Pixel>& pairs) {
+    const bool readable = read_row(y, level.on_map(first_shown_x), level.step() / 2, pairs);
+    if (pairs.back() == no_pixel) // beyond the right edge
+        pairs.back() = pairs[pairs.size() - 2];
+    return readable;
 }
 
 void MapReader::read(const QRect& shown, ZoomLevel level, QImage& target) {
-    for (int row = 0; row < shown.height(); ++row) {
-        const int y = shown.top() + row;
-        const auto pixels = row_of(target, row, shown.width());
-        if (row > 0 && level.on_map(y) == level.on_map(y - 1)) {
-            const auto above = row_of(target, row - 1, shown.width());
-            std::copy(above.begin(), above.end(), pixels.begin());
-            continue;
-        }
-        const bool readable = level.step() > 1
-                                  ? read_mean_row(y, shown.left(), level, pixels)
-                                  : read_enlarged_row(level.on_map(y), shown.left(), level, pixels);
-        if (!readable)
-            std::fill(pixels.begin(), pixels.end(), unreadable);
-    }
+    if (level.step() > 1)
+        read_means(shown, level, target);
+    else
+        read_rows(shown, level, target, unreadable);
 }
 
 void MapReader::read_samples(const QRect& shown, ZoomLevel level, QImage& target) {
+    read_rows(shown, level, target, no_pixel);
+}
+
+/// Fills the target with single pixels, and with the given one where they cannot be read.
+void MapReader::read_rows(const QRect& shown, ZoomLevel level, QImage& target, Pixel otherwise) {
     for (int row = 0; row < shown.height(); ++row) {
-        const int y = shown.top() + row;
+        const int y = level.on_map(shown.top() + row);
         const auto pixels = row_of(target, row, shown.width());
-        if (row > 0 && level.on_map(y) == level.on_map(y - 1)) {
+        if (row > 0 && y == level.on_map(shown.top() + row - 1)) {
             const auto above = row_of(target, row - 1, shown.width());
             std::copy(above.begin(), above.end(), pixels.begin());
-        } else {
-            read_enlarged_row(level.on_map(y), shown.left(), level, pixels);
+        } else if (!read_shown_row(y, shown.left(), level, pixels)) {
+            std::fill(pixels.begin(), pixels.end(), otherwise);
         }
+    }
+}
+
+/// Fills the target with the means of four pixels each. Each row that is read serves two shown
+/// ones, so that no more rows are read than are shown.
+void MapReader::read_means(const QRect& shown, ZoomLevel level, QImage& target) {
+    const auto width = static_cast<std::size_t>(shown.width());
+    row_.resize(2 * width);
+    next_row_.resize(2 * width);
+    bool readable = read_pairs(level.on_map(shown.top()), shown.left(), level, row_);
+    for (int row = 0; row < shown.height(); ++row) {
+        const int next_y = level.on_map(shown.top() + row + 1);
+        const bool next_readable =
+            next_y < image_.size_.height() && read_pairs(next_y, shown.left(), level, next_row_);
+        const auto pixels = row_of(target, row, shown.width());
+        if (readable)
+            mean_of_four(row_, next_readable ? next_row_ : row_, pixels);
+        else
+            std::fill(pixels.begin(), pixels.end(), unreadable);
+        row_.swap(next_row_);
+        readable = next_readable;
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/watched_file.h"
 #include "map/bitmap_file.h"
 #include "map/identification.h"
 #include "map/strip_reader.h"
@@ -31,9 +32,14 @@ class MapImage {
     /// Returns the size in pixels.
     QSize size() const { return size_; }
 
+    /// Opens the image again when its file was changed since this was done last. Returns whether it
+    /// was; throws what opening it throws, and stays as it is then.
+    bool follow_file();
+
   private:
     friend class MapReader;
 
+    base::WatchedFile file_;
     QString file_name_; // the system's path
     std::string head_;
     BitmapLayout layout_;
@@ -58,13 +64,12 @@ class MapReader : public StripReader {
 
     /// Fills the upper left corner of `target`, a 32-bit RGB image of the rectangle's size or
     /// larger, with the rectangle (shown pixels, inside the image) as it is shown at the level;
-    /// grey where it cannot be read. Below level 1 a shown pixel is the mean of four of the image,
-    /// which are spread over what it covers.
+    /// grey where it cannot be read. Below level 1 a shown pixel is the mean of four of the image:
+    /// the one in its corner, the one half a shown pixel to the right, and those a whole one below.
     void read(const QRect& shown, ZoomLevel level, QImage& target) override;
 
     /// Like read, but every shown pixel is the one of the image that a click on it means, whatever
-    /// the level; no_pixel outside the image and where it cannot be read. The rectangle's left edge
-    /// must not be negative.
+    /// the level; no_pixel outside the image (of a smaller map) and where it cannot be read.
     void read_samples(const QRect& shown, ZoomLevel level, QImage& target);
 
     /// Returns why something inside the image could not be read, with the file; empty while all
@@ -75,8 +80,10 @@ class MapReader : public StripReader {
     void read_new_layout(std::string_view head);
     void note_problem(const QString& reason);
     bool read_pixels(int y, int first_x, int step, std::span<Pixel> pixels);
-    bool read_enlarged_row(int y, int first_shown_x, ZoomLevel level, std::span<Pixel> shown);
-    bool read_mean_row(int shown_y, int first_shown_x, ZoomLevel level, std::span<Pixel> shown);
+    bool read_shown_row(int y, int first_shown_x, ZoomLevel level, std::span<Pixel> shown);
+    bool read_pairs(int y, int first_shown_x, ZoomLevel level, std::vector<Pixel>& pairs);
+    void read_rows(const QRect& shown, ZoomLevel level, QImage& target, Pixel otherwise);
+    void read_means(const QRect& shown, ZoomLevel level, QImage& target);
 
     const MapImage& image_;
     QFile file_;
@@ -84,7 +91,7 @@ class MapReader : public StripReader {
     const BitmapLayout* layout_ = nullptr;   // null when the file fits no longer
     std::vector<char> bytes_;
     std::vector<Pixel> row_; // kept from one row to the next, like the bytes
-    std::vector<Pixel> other_row_;
+    std::vector<Pixel> next_row_;
     QString problem_;
 };
 

@@ -77,7 +77,8 @@ void MDIForm1::build_menus() {
         made->setObjectName(name);
         actions_.emplace(item.name, made);
         made->setData(caption); // an item whose caption changes finds it here again
-        made->setShortcuts(QKeySequence::listFromString(base::from_utf8(item.shortcuts)));
+        if (!item.shortcuts.empty())
+            made->setShortcuts(QKeySequence::listFromString(base::from_utf8(item.shortcuts)));
         made->setShortcutContext(Qt::ApplicationShortcut); // in the dialogs one works beside, too
         made->setCheckable(item.checkable);
         if (parent)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/watched_file.h"
 #include "data/province_file.h"
 #include "data/run_time_error.h"
 #include "editor/selection_history.h"
@@ -12,7 +13,6 @@
 #include "shell/problem.h"
 #include "shell/session.h"
 #include "shell/start_up.h"
-#include "shell/watched_file.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -157,7 +157,7 @@ class MDIForm1 : public QMainWindow {
     Session& session_;
     RecoveryCopies& copies_;
     std::string saved_to_;               // stored path; empty before the first save
-    WatchedFile watched_;                // the province file
+    base::WatchedFile watched_;          // the province file
     std::vector<Problem> file_problems_; // of the file that was read, until a save replaces it
     QPointer<Form_controle> controle_;
     QPointer<Form_modifications> modifications_;

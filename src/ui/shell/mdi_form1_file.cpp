@@ -140,7 +140,11 @@ void MDIForm1::table_changed() {
 
 void MDIForm1::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && watched_.has_changed())
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow())
+        return;
+    if (map_)
+        map_->follow_files();
+    if (watched_.has_changed())
         tell(base::message_text(session_.language.text(Text::notice_changed_outside,
                                                        {base::shown_path(watched_.path())})));
 }

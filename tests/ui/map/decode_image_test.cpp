@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
+#include <vector>
 
 #if defined(__linux__) && !defined(__SANITIZE_ADDRESS__)
 #include <fstream>
@@ -55,10 +57,33 @@ TEST(DecodeImage, ImageThatMemoryCannotHoldIsAnError) {
               std::string::npos);
 }
 
+TEST(DecodeImage, EightBitsStayEightBits) {
+    const support::Folder folder;
+    QImage grey(30, 20, QImage::Format_Grayscale8);
+    QImage indexed(30, 20, QImage::Format_Indexed8);
+    QImage two(30, 20, QImage::Format_Mono);
+    indexed.setColorTable({0xFF102030, 0x80AA5511}); // the second is half transparent
+    two.setColorTable({0xFF102030, 0xFFAA5511});
+    for (const auto& [image, seen] :
+         {std::pair{&grey, 0x070707U}, {&indexed, 0xAA5511U}, {&two, 0xAA5511U}}) {
+        image->fill(image == &grey ? 7 : 0);
+        if (image != &grey)
+            image->setPixel(29, 19, 1);
+        ASSERT_TRUE(image->save(folder.native("map.png"), "PNG"));
+        EXPECT_EQ(map::decode_image(folder.path("map.png")).depth(), 8);
+        const map::MapImage map(folder.path("map.png"));
+        EXPECT_EQ(map::MapReader(map).colour_at({29, 19}), seen);
+        std::vector<map::Pixel> pixels(4);
+        EXPECT_TRUE(map::MapReader(map).read_row(19, 20, 3, pixels));
+        EXPECT_EQ(pixels[3], 0xFF000000U | seen);
+        EXPECT_EQ(pixels[2], image == &grey ? 0xFF070707U : 0xFF102030U);
+    }
+}
+
 #if defined(__linux__) && !defined(__SANITIZE_ADDRESS__)
 TEST(DecodeImage, NoMemoryForTheConversionIsAnError) {
     const support::Folder folder;
-    QImage drawing(4000, 4000, QImage::Format_Mono); // 2 MB as it is, 64 MB with 32 bits
+    QImage drawing(4000, 4000, QImage::Format_Grayscale16); // 32 MB as it is, 64 MB with 32 bits
     drawing.fill(1);
     ASSERT_TRUE(drawing.save(folder.native("map.png"), "PNG"));
     EXPECT_EQ(problem_of(folder.path("map.png")), "none");
@@ -67,7 +92,7 @@ TEST(DecodeImage, NoMemoryForTheConversionIsAnError) {
     ASSERT_EQ(getrlimit(RLIMIT_AS, &before), 0);
     rlim_t pages = 0;
     std::ifstream("/proc/self/statm") >> pages;
-    const rlimit narrow{pages * 4096 + (rlim_t{40} << 20), before.rlim_max};
+    const rlimit narrow{pages * 4096 + (rlim_t{50} << 20), before.rlim_max};
     ASSERT_EQ(setrlimit(RLIMIT_AS, &narrow), 0);
     const std::string problem = problem_of(folder.path("map.png"));
     ASSERT_EQ(setrlimit(RLIMIT_AS, &before), 0);

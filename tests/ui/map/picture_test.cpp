@@ -20,7 +20,7 @@ QRgb expected(const QImage& whole, QPoint shown, ZoomLevel level, bool single) {
         return whole.pixel(first);
     int sums[] = {0, 0, 0};
     for (const QPoint corner : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1), QPoint(1, 1)}) {
-        QPoint point = first + corner * level.step() / 2;
+        QPoint point = first + QPoint(corner.x() * level.step() / 2, corner.y() * level.step());
         point.setX(point.x() < whole.width() ? point.x() : first.x());
         point.setY(point.y() < whole.height() ? point.y() : first.y());
         const QRgb pixel = whole.pixel(point);

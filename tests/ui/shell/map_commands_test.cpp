@@ -104,6 +104,58 @@ TEST_F(MapCommands, MapsAreOpenedAndChosen) {
     EXPECT_EQ(map_window(), before) << "cancelled";
 }
 
+TEST_F(MapCommands, ZoomItemsAndTheirKeys) {
+    start_again();
+    const char* items[] = {"zoom_plus", "zoom_moins", "zoom_1", "zoom_tout"};
+    for (const auto* item : items)
+        EXPECT_FALSE(action(item).isEnabled()) << item << ", without maps";
+    open_maps();
+    const auto& map = control<QWidget>("Picture1");
+    const auto expect = [&](int shown_width, const std::string& enabled) {
+        EXPECT_EQ(map.width(), shown_width);
+        std::string found;
+        for (const auto* item : items)
+            found += action(item).isEnabled() ? '1' : '0';
+        EXPECT_EQ(found, enabled) << shown_width;
+    };
+    expect(width, "1111");
+    press_key(Qt::Key_Plus, Qt::ControlModifier);
+    expect(2 * width, "1111");
+    press_key(Qt::Key_Equal, Qt::ControlModifier);
+    choose("carte", "zoom_plus");
+    expect(8 * width, "0111");
+    choose("carte", "carte_2");
+    press_key(Qt::Key_F3);
+    expect(8 * width, "0111");
+    press_key(Qt::Key_0, Qt::ControlModifier);
+    expect(width, "1111");
+    for (int i = 0; i < 5; ++i)
+        press_key(Qt::Key_Minus, Qt::ControlModifier);
+    expect(7, "1011");
+    press_key(Qt::Key_9, Qt::ControlModifier);
+    expect(width, "1111");
+    choose("carte", "zoom_moins");
+    choose("carte", "zoom_1");
+    expect(width, "1111");
+    press_key(Qt::Key_Minus, Qt::ControlModifier);
+    open_maps();
+    EXPECT_EQ(control<QWidget>("Picture1").width(), width) << "opened maps begin at level 1";
+}
+
+TEST_F(MapCommands, AMapThatWasChangedMeanwhileIsShownOnActivation) {
+    start();
+    open_maps();
+    choose("carte", "zoom_plus");
+    folder.write("relief.bmp", plain(slate, width + 1));
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    EXPECT_EQ(control<QWidget>("Picture1").width(), 2 * width);
+    come_back();
+    EXPECT_EQ(control<QWidget>("Picture1").width(), 2 * width + 2);
+}
+
 TEST_F(MapCommands, ThePointersProvinceIsNamed) {
     start();
     open_maps();

@@ -1,4 +1,4 @@
-#include "shell/watched_file.h"
+#include "base/watched_file.h"
 
 #include "base/stored_path.h"
 
@@ -6,10 +6,10 @@
 
 #include <utility>
 
-namespace shell {
+namespace base {
 
 WatchedFile::State WatchedFile::present() const {
-    const QFileInfo file(base::native_path(path_));
+    const QFileInfo file(native_path(path_));
     if (!file.exists())
         return {};
     return {file.size(), file.lastModified()};
@@ -27,4 +27,4 @@ bool WatchedFile::has_changed() {
     return before != state_;
 }
 
-} // namespace shell
+} // namespace base

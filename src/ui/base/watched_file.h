@@ -4,11 +4,16 @@
 
 #include <string>
 
-namespace shell {
+namespace base {
 
-/// The file that was read or saved last, and whether another program has changed it since.
+/// A file that was read or saved, and whether another program has changed it since.
 class WatchedFile {
   public:
+    WatchedFile() = default;
+
+    /// Takes the file with that stored path as it is now.
+    explicit WatchedFile(const std::string& path) { watch(path); }
+
     /// Takes the file with that stored path as it is now.
     void watch(const std::string& path);
 
@@ -29,4 +34,4 @@ class WatchedFile {
     State state_;
 };
 
-} // namespace shell
+} // namespace base
