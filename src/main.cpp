@@ -18,7 +18,6 @@
 #include <iostream>
 #include <optional>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <variant>
 #include <vector>
@@ -62,7 +61,9 @@ void save_picture(QWidget& frame, const QString& file) {
     frame.show();
     QApplication::processEvents();
     if (!frame.grab().save(file, "PNG"))
-        throw std::runtime_error("The picture could not be written to " + base::path_bytes(file));
+        throw data::RunTimeError(data::ErrorNumber::path_file_access,
+                                 data::Phrase(data::Text::reason_picture))
+            .within(base::path_bytes(file));
 }
 
 /// A frame that its screen could not hold together with its title bar takes the whole screen.

@@ -1,7 +1,6 @@
 #include "base/messages.h"
 
 #include "base/shown_text.h"
-#include "shell/error_text.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -70,8 +69,9 @@ bool ask(const shell::Session& session, QWidget* owner, const std::string& text,
 }
 
 void show_error(const shell::Session& session, QWidget* owner, const data::RunTimeError& error) {
-    throw_if_unattended(session, error.what());
-    show_error_box(owner, text_of(error, session.language));
+    const std::string text = session.language.text(error);
+    throw_if_unattended(session, text);
+    show_error_box(owner, text);
 }
 
 void show_error_box(QWidget* owner, const std::string& text) {

@@ -8,7 +8,6 @@
 #include "gfx/form2.h"
 #include "gfx/form3.h"
 #include "map/identification.h"
-#include "shell/error_text.h"
 #include "shell/frm_about.h"
 #include "shell/mdi_form1.h"
 
@@ -153,7 +152,7 @@ void MDIForm1::choose_language(int item) {
     } catch (const data::RunTimeError& error) {
         base::show_message(
             session_, this,
-            session_.language.text(Text::language_refused, {text_of(error, session_.language)}));
+            session_.language.text(Text::language_refused, {session_.language.text(error)}));
         return;
     }
     session_.configuration.language_file = base::to_bytes(file);
@@ -175,7 +174,7 @@ void MDIForm1::assign(const std::vector<Assignment>& assignments) {
     table_changed();
 }
 
-void MDIForm1::select_clicked(int identifier, bool add, const std::string& place) {
+void MDIForm1::select_clicked(int identifier, bool add, const data::Phrase& place) {
     const std::string present = add ? panel_->selection_text() : std::string();
     panel_->set_selection_text(editor::with_province(present, identifier));
     if (identifier > data::last_province)

@@ -139,7 +139,7 @@ TEST_F(Form2Test, OffsetBeyond16BitsIsAnOverflow) {
             ADD_FAILURE();
         } catch (const data::RunTimeError& error) {
             EXPECT_EQ(error.number(), data::ErrorNumber::overflow);
-            EXPECT_EQ(error.place().find("Y place"), 0U) << error.place();
+            EXPECT_EQ(error.place().in_english().find("Y place"), 0U) << error.what();
         }
     });
     EXPECT_EQ(session.maps.y_offset, -3);
