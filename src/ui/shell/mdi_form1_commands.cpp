@@ -78,6 +78,8 @@ void MDIForm1::quitter() {
 void MDIForm1::enter_mode(map::Mode mode) {
     session_.mode = mode;
     check_mode();
+    if (mode != map::Mode::normal)
+        panel_->forget_shown(); // to be hidden with the focus is not to be left
     panel_->setVisible(mode == map::Mode::normal);
     if (auto* map = map_window())
         map->selection_or_mode_changed();
