@@ -2,6 +2,7 @@
 
 #include "base/shown_text.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -17,6 +18,13 @@ class Box : public QMessageBox {
   public:
     using QMessageBox::QMessageBox;
     EscapeKey escape = EscapeKey::is_no;
+
+    /// A key that is held since before the box came up does not press a button.
+    bool eventFilter(QObject* button, QEvent* event) override {
+        const bool is_held =
+            event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat();
+        return is_held || QMessageBox::eventFilter(button, event);
+    }
 
   protected:
     void keyPressEvent(QKeyEvent* event) override {
@@ -41,6 +49,8 @@ int show_box(QWidget* owner, const char* name, QMessageBox::Icon icon, const std
     // Text that can be marked also breaks within a long path instead of leaving the box.
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     box.setDefaultButton(preset);
+    for (QAbstractButton* button : box.buttons())
+        button->installEventFilter(&box);
     return box.exec();
 }
 
