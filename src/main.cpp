@@ -135,7 +135,7 @@ std::optional<int> work_without_window(int& argc, char** argv) {
 }
 
 int start_program(int& argc, char** argv) {
-    shell::ignore_closed_pipes();
+    shell::ignore_failing_writes();
     if (const auto status = work_without_window(argc, argv))
         return *status;
     const bool is_seen = has_display();

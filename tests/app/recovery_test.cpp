@@ -97,6 +97,15 @@ TEST_F(Recovery, AFolderThatCannotBeWrittenLosesNothing) {
     EXPECT_TRUE(process.readAllStandardError().contains(found[0].toUtf8())) << "told where";
 }
 
+TEST_F(Recovery, AFullDiskIsToldOfAndLeavesNoHalfFile) {
+    limit_files_to(1000);
+    use(renames);
+    EXPECT_EQ(end_by(SIGTERM), 128 + SIGTERM);
+    EXPECT_TRUE(process.readAllStandardError().contains("changes could not be written: Run-time"));
+    EXPECT_EQ(QDir(folder.native("program")).entryList(QDir::Files | QDir::Hidden),
+              QStringList("english.lng"));
+}
+
 } // namespace
 
 #endif

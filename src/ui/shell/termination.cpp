@@ -70,8 +70,9 @@ Termination::~Termination() {
     at_exit() = nullptr;
 }
 
-void ignore_closed_pipes() {
-    std::signal(SIGPIPE, SIG_IGN);
+void ignore_failing_writes() {
+    for (const int number : {SIGPIPE, SIGXFSZ})
+        std::signal(number, SIG_IGN);
 }
 
 } // namespace shell
@@ -81,7 +82,7 @@ void ignore_closed_pipes() {
 namespace shell {
 Termination::Termination(std::function<void(int)>, std::function<void()>) {}
 Termination::~Termination() = default;
-void ignore_closed_pipes() {}
+void ignore_failing_writes() {}
 } // namespace shell
 
 #endif
