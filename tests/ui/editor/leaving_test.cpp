@@ -157,6 +157,8 @@ TEST_F(Panel, TheFocusComesBackToARefusedNumber) {
                 {"TabStrip1", true},
                 {"tol(1)", true},
                 {"Command2", false}};
+    // Some desktops activate the frame before the focus is sent back, others later.
+    boxes.before_answer = [this](QMessageBox&) { QApplication::setActiveWindow(frame.get()); };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.to);
         select_with(25, "1", "2");
