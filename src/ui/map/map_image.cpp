@@ -127,7 +127,9 @@ bool MapReader::read_pixels(int y, int first_x, int step, std::span<Pixel> pixel
     if (!file_.seek(static_cast<qint64>(part.begin)) ||
         file_.read(bytes_.data(), static_cast<qint64>(part.size)) !=
             static_cast<qint64>(part.size)) {
-        note_problem(data::Phrase(data::Text::reason_row_missing, y));
+        note_problem(file_.error() == QFileDevice::NoError
+                         ? data::Phrase(data::Text::reason_row_missing, y)
+                         : data::Phrase(base::path_bytes(file_.errorString())));
         return false;
     }
     decode_pixels(*layout_, bytes_, first_x, step, pixels);
