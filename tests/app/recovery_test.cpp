@@ -106,6 +106,20 @@ TEST_F(Recovery, AFullDiskIsToldOfAndLeavesNoHalfFile) {
               QStringList("english.lng"));
 }
 
+#ifdef Q_OS_LINUX
+TEST_F(Recovery, WhatTheCopyHoldsIsNotWrittenAgain) {
+    use(renames);
+    QElapsedTimer time;
+    for (time.start(); copies().isEmpty() && time.elapsed() < 2000;)
+        QThread::msleep(20);
+    const rlimit full{1000, 1000};
+    ::prlimit(static_cast<pid_t>(process.processId()), RLIMIT_FSIZE, &full, nullptr);
+    EXPECT_EQ(end_by(SIGTERM), 128 + SIGTERM);
+    EXPECT_TRUE(process.readAllStandardError().contains("changes are in " +
+                                                        folder.native("program").toUtf8()));
+}
+#endif
+
 } // namespace
 
 #endif

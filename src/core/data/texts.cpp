@@ -24,6 +24,7 @@ constexpr IndexedArray<Text, TextInfo, text_count> texts = {{{
     {Text::recovery_copy_written, "recovery_copy_written", "The unsaved changes are in %1"},
     {Text::recovery_copy_failed, "recovery_copy_failed",
      "The unsaved changes could not be written: %1"},
+    {Text::recovery_copy_older, "recovery_copy_older", "An older state of them is in %1"},
 
     // Where they happen, and why
     {Text::place_reason, "place_reason", "%1: %2"},

@@ -31,6 +31,7 @@ enum class Text {
     error_nothing_unsaved,
     recovery_copy_written,
     recovery_copy_failed,
+    recovery_copy_older,
 
     // Where they happen, and why
     place_reason,

@@ -74,7 +74,12 @@ std::string Application::recover_all() noexcept {
         return session_.language.text(Text::recovery_copy_written,
                                       {base::shown_path(copies_.own())});
     } catch (const std::exception& error) {
-        return session_.language.text(Text::recovery_copy_failed, {session_.language.text(error)});
+        const auto& language = session_.language;
+        const std::string text = language.text(Text::recovery_copy_failed, {language.text(error)});
+        if (copies_.own().empty())
+            return text;
+        return text + "\n" +
+               language.text(Text::recovery_copy_older, {base::shown_path(copies_.own())});
     }
 }
 
