@@ -18,7 +18,6 @@
 #include <iostream>
 #include <optional>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <variant>
 #include <vector>
@@ -62,7 +61,9 @@ void save_picture(QWidget& frame, const QString& file) {
     frame.show();
     QApplication::processEvents();
     if (!frame.grab().save(file, "PNG"))
-        throw std::runtime_error("The picture could not be written to " + base::path_bytes(file));
+        throw data::RunTimeError(data::ErrorNumber::path_file_access,
+                                 data::Phrase(data::Text::reason_picture))
+            .within(base::path_bytes(file));
 }
 
 /// A frame that its screen could not hold together with its title bar takes the whole screen.
@@ -134,7 +135,7 @@ std::optional<int> work_without_window(int& argc, char** argv) {
 }
 
 int start_program(int& argc, char** argv) {
-    shell::ignore_closed_pipes();
+    shell::ignore_failing_writes();
     if (const auto status = work_without_window(argc, argv))
         return *status;
     const bool is_seen = has_display();

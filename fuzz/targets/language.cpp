@@ -16,7 +16,7 @@ void fuzz::language(std::string_view bytes) {
     }
     for (const auto& entry : language.list("MENU_"))
         assert(language.caption(entry.code) && language.exact_caption(entry.code));
-    for (const auto& row : shell::texts) {
+    for (const auto& row : data::texts) {
         const auto& pattern = language.text(row.text);
         assert(pattern.find('%') != std::string::npos || language.text(row.text, {"1"}) == pattern);
     }

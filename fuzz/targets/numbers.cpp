@@ -12,5 +12,7 @@ void fuzz::numbers(std::string_view bytes) {
     const std::string written = data::to_text(number);
     assert(data::is_number(written));
     assert(data::to_text(data::leading_number(written)) == written);
-    accepts([&] { assert(data::to_int16(number, "place") == data::round_half_even(number)); });
+    accepts([&] {
+        assert(data::to_int16(number, std::string("place")) == data::round_half_even(number));
+    });
 }

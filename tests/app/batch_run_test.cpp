@@ -166,6 +166,16 @@ TEST_F(BatchRun, AsksNoWindowSystemAndReadsOnlyWhatItNeeds) {
 }
 
 #ifdef Q_OS_LINUX
+TEST_F(BatchRun, AFullDiskLeavesTheOldFile) {
+    limit_files_to(1000);
+    folder.write("saved.csv", "before");
+    const QStringList names = folder.names();
+    EXPECT_EQ(run(in + save), 3);
+    EXPECT_NE(errors.find("Run-time error 75"), std::string::npos) << errors;
+    EXPECT_EQ(folder.read("saved.csv"), "before");
+    EXPECT_EQ(folder.names().size(), names.size() + 1) << "only the backup is new";
+}
+
 TEST_F(BatchRun, BackupsGoWhereThoseOfTheWindowGo) {
     folder.make_folder("data");
     auto environment = process.processEnvironment();

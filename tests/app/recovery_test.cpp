@@ -97,6 +97,29 @@ TEST_F(Recovery, AFolderThatCannotBeWrittenLosesNothing) {
     EXPECT_TRUE(process.readAllStandardError().contains(found[0].toUtf8())) << "told where";
 }
 
+TEST_F(Recovery, AFullDiskIsToldOfAndLeavesNoHalfFile) {
+    limit_files_to(1000);
+    use(renames);
+    EXPECT_EQ(end_by(SIGTERM), 128 + SIGTERM);
+    EXPECT_TRUE(process.readAllStandardError().contains("changes could not be written: Run-time"));
+    EXPECT_EQ(QDir(folder.native("program")).entryList(QDir::Files | QDir::Hidden),
+              QStringList("english.lng"));
+}
+
+#ifdef Q_OS_LINUX
+TEST_F(Recovery, WhatTheCopyHoldsIsNotWrittenAgain) {
+    use(renames);
+    QElapsedTimer time;
+    for (time.start(); copies().isEmpty() && time.elapsed() < 2000;)
+        QThread::msleep(20);
+    const rlimit full{1000, 1000};
+    ::prlimit(static_cast<pid_t>(process.processId()), RLIMIT_FSIZE, &full, nullptr);
+    EXPECT_EQ(end_by(SIGTERM), 128 + SIGTERM);
+    EXPECT_TRUE(process.readAllStandardError().contains("changes are in " +
+                                                        folder.native("program").toUtf8()));
+}
+#endif
+
 } // namespace
 
 #endif

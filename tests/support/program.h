@@ -9,6 +9,10 @@
 #include <gtest/gtest.h>
 #include <string>
 
+#ifdef Q_OS_UNIX
+#include <sys/resource.h>
+#endif
+
 namespace support {
 
 /// Runs of the built program, in a folder of its own and on no display.
@@ -38,6 +42,16 @@ class Program : public testing::Test {
         errors = process.readAllStandardError().toStdString();
         return process.exitCode();
     }
+
+#ifdef Q_OS_UNIX
+    /// No file of the program can grow beyond that many bytes, as on a disk that is full.
+    void limit_files_to(rlim_t bytes) {
+        process.setChildProcessModifier([bytes] {
+            const rlimit limit{bytes, bytes};
+            ::setrlimit(RLIMIT_FSIZE, &limit);
+        });
+    }
+#endif
 
     static std::string province_line(const std::string& identifier, const std::string& line_end) {
         std::string line = identifier;

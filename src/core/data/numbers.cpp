@@ -73,12 +73,14 @@ double round_half_even(double number) {
     return std::nearbyint(number);
 }
 
-std::int16_t to_int16(double number, std::string_view place) {
+std::int16_t to_int16(double number, const Phrase& place) {
+    constexpr auto least = std::numeric_limits<std::int16_t>::min();
+    constexpr auto most = std::numeric_limits<std::int16_t>::max();
     const double rounded = round_half_even(number);
-    if (!(rounded >= std::numeric_limits<std::int16_t>::min() &&
-          rounded <= std::numeric_limits<std::int16_t>::max()))
-        throw RunTimeError(ErrorNumber::overflow, std::string(place) + ": " + to_text(number) +
-                                                      " is not between -32768 and 32767");
+    if (!(rounded >= least && rounded <= most))
+        throw RunTimeError(ErrorNumber::overflow,
+                           Phrase(Text::reason_not_between, to_text(number), least, most))
+            .within(place);
     return static_cast<std::int16_t>(rounded);
 }
 

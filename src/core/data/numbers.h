@@ -1,5 +1,7 @@
 #pragma once
 
+#include "data/place.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -20,7 +22,7 @@ bool is_whole_number(std::string_view text);
 double round_half_even(double number);
 
 /// Returns the number rounded half to even; throws overflow outside -32768 to 32767, with `place`.
-std::int16_t to_int16(double number, std::string_view place);
+std::int16_t to_int16(double number, const Phrase& place);
 
 /// Returns the number in decimal, never with an exponent: at most 15 significant digits and no idle
 /// zeros ("130.25"). An infinite number is written as the largest one, what is no number as "0".

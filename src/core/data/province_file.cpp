@@ -18,11 +18,10 @@ constexpr std::string_view unread_columns = ";0;0";
 [[noreturn]] void throw_too_few_fields(int line, int province, TableColumn column) {
     const FileColumn missing = file_column(column);
     throw RunTimeError(ErrorNumber::invalid_procedure_call,
-                       "line " + std::to_string(line) + ", province " + std::to_string(province) +
-                           ", column " + std::to_string(missing.number) + " (" +
-                           std::string(header(missing)) + "): the line ends here, at least " +
-                           std::to_string(file_column(first_unread).number) +
-                           " fields separated by \";\" were expected");
+                       Phrase(Text::reason_line_ends, file_column(first_unread).number))
+        .within(Phrase(Text::place_column, missing.number, header(missing)))
+        .within(Phrase(Text::place_province, province))
+        .within(Phrase(Text::place_line, line));
 }
 
 /// Fills one row from the line's fields behind its identifier.

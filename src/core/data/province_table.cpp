@@ -14,16 +14,16 @@ constexpr std::int32_t unchanged = -1;
 void check_column(TableColumn column) {
     if (column.index < 0 || column.index >= table_columns)
         throw RunTimeError(ErrorNumber::subscript_out_of_range,
-                           "table column " + std::to_string(column.index) +
-                               " is not between 0 and " + std::to_string(table_columns - 1));
+                           Phrase(Text::reason_not_between, column.index, 0, table_columns - 1))
+            .within(Phrase(Text::place_table_column));
 }
 
 std::size_t position(int province, TableColumn column) {
     check_column(column);
     if (province < 0 || province > last_province)
         throw RunTimeError(ErrorNumber::subscript_out_of_range,
-                           "province " + std::to_string(province) + " is not between 0 and " +
-                               std::to_string(last_province));
+                           Phrase(Text::reason_not_between, province, 0, last_province))
+            .within(Phrase(Text::place_table_row));
     return static_cast<std::size_t>(province) + static_cast<std::size_t>(column.index) * rows;
 }
 

@@ -21,8 +21,7 @@ bool is_utf_16(std::string_view bytes) {
 
 RecordReader::RecordReader(std::string_view bytes) : rest_(bytes) {
     if (is_utf_16(bytes))
-        throw RunTimeError(ErrorNumber::invalid_procedure_call,
-                           "the file is stored as UTF-16, Windows-1252 (\"ANSI\") was expected");
+        throw RunTimeError(ErrorNumber::invalid_procedure_call, Phrase(Text::reason_utf_16));
     if (rest_.starts_with(byte_order_mark))
         rest_.remove_prefix(byte_order_mark.size());
 }
@@ -53,18 +52,16 @@ bool RecordReader::at_end() {
 std::string RecordReader::next() {
     drop_blanks();
     field_line_ = line_;
-    const std::string line = "line " + std::to_string(line_);
     if (rest_.empty())
-        throw RunTimeError(ErrorNumber::input_past_end,
-                           line + ": the file ends inside a record, a further field was expected");
+        throw RunTimeError(ErrorNumber::input_past_end, Phrase(Text::reason_record_ends))
+            .within(Phrase(Text::place_line, line_));
 
     std::string field;
     if (rest_.front() == '"') {
         const auto end = rest_.find_first_of("\"\r\n", 1);
         if (end == std::string_view::npos || rest_[end] != '"')
-            throw RunTimeError(ErrorNumber::invalid_procedure_call,
-                               line + ": a text begins with a quote, a second quote was expected "
-                                      "before the end of the line");
+            throw RunTimeError(ErrorNumber::invalid_procedure_call, Phrase(Text::reason_open_quote))
+                .within(Phrase(Text::place_line, line_));
         field = rest_.substr(1, end - 1);
         drop(end + 1);
         drop(std::min(rest_.find_first_of(",\r\n"), rest_.size()));

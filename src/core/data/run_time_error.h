@@ -1,8 +1,9 @@
 #pragma once
 
+#include "data/place.h"
+
 #include <stdexcept>
 #include <string>
-#include <string_view>
 
 namespace data {
 
@@ -19,46 +20,25 @@ enum class ErrorNumber {
     path_not_found = 76,
 };
 
-/// Returns the platform's words for the number, in English.
-constexpr std::string_view words(ErrorNumber number) {
-    switch (number) {
-    case ErrorNumber::invalid_procedure_call:
-        return "Invalid procedure call or argument";
-    case ErrorNumber::overflow:
-        return "Overflow";
-    case ErrorNumber::subscript_out_of_range:
-        return "Subscript out of range";
-    case ErrorNumber::file_not_found:
-        return "File not found";
-    case ErrorNumber::disk_full:
-        return "Disk full";
-    case ErrorNumber::input_past_end:
-        return "Input past end of file";
-    case ErrorNumber::permission_denied:
-        return "Permission denied";
-    case ErrorNumber::path_file_access:
-        return "Path/File access error";
-    case ErrorNumber::path_not_found:
-        return "Path not found";
-    }
-    return "Unknown error";
-}
-
 /// An error of the platform with the place where it happened in the user's terms: file, line,
 /// province, field, and what was expected. All texts are Windows-1252 bytes.
 class RunTimeError : public std::runtime_error {
   public:
-    RunTimeError(ErrorNumber number, std::string place);
+    RunTimeError(ErrorNumber number, Place place);
 
     ErrorNumber number() const { return number_; }
-    const std::string& place() const { return place_; }
+    const Place& place() const { return place_; }
+
+    /// Returns the number, the platform's words for it and the place on the next line; `what` is
+    /// the same in English.
+    std::string in(const Dictionary& dictionary) const;
 
     /// Returns the same error with `outer` written before its place.
-    RunTimeError within(std::string_view outer) const;
+    RunTimeError within(Phrase outer) const;
 
   private:
     ErrorNumber number_;
-    std::string place_;
+    Place place_;
 };
 
 } // namespace data

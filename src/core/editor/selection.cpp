@@ -10,11 +10,14 @@ namespace editor {
 
 namespace {
 
+using data::Phrase;
+using data::Text;
+
 [[noreturn]] void throw_no_such_province(double identifier) {
     throw data::RunTimeError(data::ErrorNumber::subscript_out_of_range,
-                             "selection: province " + data::to_text(identifier) +
-                                 ", an identifier from 1 to " +
-                                 std::to_string(data::last_province) + " was expected");
+                             Phrase(Text::reason_identifier, data::last_province))
+        .within(Phrase(Text::place_province, data::to_text(identifier)))
+        .within(Phrase(Text::place_selection));
 }
 
 } // namespace

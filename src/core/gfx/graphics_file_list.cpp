@@ -10,9 +10,8 @@ namespace gfx {
 void GraphicsFileList::append(GraphicsFile file) {
     if (count_ < 0 || static_cast<std::size_t>(count_) >= capacity)
         throw data::RunTimeError(data::ErrorNumber::subscript_out_of_range,
-                                 "record " + std::to_string(count_ + 1) +
-                                     " of the graphics file list, which has records 1 to " +
-                                     std::to_string(capacity));
+                                 data::Phrase(data::Text::reason_too_many_sets, capacity))
+            .within(data::Phrase(data::Text::place_record, count_ + 1));
     files_[static_cast<std::size_t>(count_)] = std::move(file);
     ++count_;
 }

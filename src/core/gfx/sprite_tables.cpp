@@ -12,24 +12,27 @@ namespace {
 
 using data::ErrorNumber;
 using data::find_ignoring_case;
+using data::Phrase;
 using data::RunTimeError;
+using data::Text;
 constexpr auto npos = std::string_view::npos;
 
 /// A line of a descriptor file, and what the file is loaded under.
 struct Line {
     std::string_view text;
-    std::string place;
+    int number;
     std::string_view set_name;
     std::string_view graphics_folder;
+
+    Phrase place() const { return {Text::place_line, number}; }
 };
 
 std::string bitmap_name(const Line& line, std::size_t key_end) {
     const auto open = line.text.find('"', key_end);
     const auto close = open == npos ? npos : line.text.find('"', open + 1);
     if (close == npos)
-        throw RunTimeError(ErrorNumber::invalid_procedure_call,
-                           line.place + ": a file name in double quotes was expected after the "
-                                        "key \"Bitmap\"");
+        throw RunTimeError(ErrorNumber::invalid_procedure_call, Phrase(Text::reason_bitmap_name))
+            .within(line.place());
     return std::string(line.text.substr(open + 1, close - open - 1));
 }
 
@@ -37,7 +40,7 @@ std::string bitmap_name(const Line& line, std::size_t key_end) {
 std::int16_t number_from(const Line& line, std::size_t from) {
     const auto equals = line.text.find('=', from);
     const auto text = equals == npos ? line.text : line.text.substr(equals + 1);
-    return data::to_int16(data::leading_number(text), line.place);
+    return data::to_int16(data::leading_number(text), line.place());
 }
 
 /// Returns the number of a coordinate of the key "origin". Without the coordinate's letter the
@@ -76,10 +79,10 @@ constexpr std::array<Key, 3> keys = {{
 /// Returns the row that is filled next. Throws subscript out of range behind the last one.
 Sprite& current_row(SpriteTable& table, const Line& line) {
     if (table.count < 0 || static_cast<std::size_t>(table.count) >= table.rows.size())
-        throw RunTimeError(ErrorNumber::subscript_out_of_range,
-                           line.place + ": sprite " + std::to_string(table.count + 1) +
-                               " of its kind, at most " + std::to_string(table.rows.size()) +
-                               " were expected");
+        throw RunTimeError(
+            ErrorNumber::subscript_out_of_range,
+            Phrase(Text::reason_too_many_sprites, table.count + 1, table.rows.size()))
+            .within(line.place());
     return table.rows[static_cast<std::size_t>(table.count)];
 }
 
@@ -96,8 +99,7 @@ void SpriteTables::read_descriptor(std::string_view bytes, std::string_view kind
     int keys_of_this_sprite = 0;
     for (int number = 1; !bytes.empty(); ++number) {
         const auto end = bytes.find_first_of("\r\n");
-        const Line line{bytes.substr(0, end), "line " + std::to_string(number), set_name,
-                        graphics_folder};
+        const Line line{bytes.substr(0, end), number, set_name, graphics_folder};
         bytes.remove_prefix(end == npos ? bytes.size() : end);
         bytes.remove_prefix(bytes.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, bytes.size()));
 

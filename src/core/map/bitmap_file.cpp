@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <bit>
 #include <limits>
-#include <string>
 
 namespace map {
 
@@ -23,10 +22,8 @@ void check_has_pixels(const BitmapLayout& layout, std::uint64_t file_size) {
     constexpr auto most = std::numeric_limits<std::uint64_t>::max();
     const auto needed = bytes_of_rows + std::min(layout.pixels_begin, most - bytes_of_rows);
     if (needed > file_size)
-        throw image_error(
-            "a bitmap of " + std::to_string(layout.width) + " x " + std::to_string(layout.height) +
-            " pixels with " + std::to_string(layout.bits_per_pixel) + " bits each needs " +
-            std::to_string(needed) + " bytes, the file has " + std::to_string(file_size));
+        throw image_error(data::Text::reason_too_few_bytes, layout.width, layout.height,
+                          layout.bits_per_pixel, needed, file_size);
 }
 
 std::vector<Pixel> read_palette(std::span<const char> head, const BitmapHeader& header) {
@@ -52,7 +49,7 @@ std::optional<std::array<Channel, 3>> read_channels(std::span<const char> head,
     std::array<Channel, 3> channels;
     for (Channel& channel : channels) {
         if (position + 4 > head.size())
-            throw image_error("the file ends inside the bitmap header");
+            throw image_error(data::Text::reason_header_ends);
         const std::uint32_t mask = read_32(head, position);
         if (mask == 0)
             return {};
@@ -123,8 +120,7 @@ std::optional<BitmapLayout> read_bitmap_layout(std::string_view head_bytes,
         layout.channels = channels_of_32_bits;
         break;
     default:
-        throw image_error("a bitmap with " + std::to_string(layout.bits_per_pixel) +
-                          " bits per pixel, 1, 4, 8, 16, 24 or 32 were expected");
+        throw image_error(data::Text::reason_bits, layout.bits_per_pixel);
     }
     if (header.compression == Compression::bit_fields) {
         if (layout.bits_per_pixel != 16 && layout.bits_per_pixel != 32)

@@ -3,8 +3,6 @@
 #include "map/image_error.h"
 #include "map/little_endian.h"
 
-#include <string>
-
 namespace map {
 
 namespace {
@@ -17,8 +15,7 @@ constexpr std::size_t masks_size = 12;
 void set_size(BitmapHeader& header, std::int64_t width, std::int64_t height) {
     constexpr std::int64_t largest = 0x7FFFFFFF;
     if (width < 1 || height == 0 || height < -largest)
-        throw image_error("a bitmap of " + std::to_string(width) + " x " + std::to_string(height) +
-                          " pixels, at least 1 x 1 was expected");
+        throw image_error(data::Text::reason_image_size, width, height);
     header.width = static_cast<int>(width);
     header.height = static_cast<int>(height < 0 ? -height : height);
     header.top_down = height < 0;
@@ -63,7 +60,7 @@ bool is_bitmap(std::span<const char> head) {
 BitmapHeader read_bitmap_header(std::span<const char> head) {
     const auto expect_bytes = [&](std::size_t count) {
         if (head.size() < count)
-            throw image_error("the file ends inside the bitmap header");
+            throw image_error(data::Text::reason_header_ends);
     };
     expect_bytes(file_header_size + core_header_size);
     BitmapHeader header;
@@ -74,8 +71,7 @@ BitmapHeader read_bitmap_header(std::span<const char> head) {
         expect_bytes(file_header_size + info_header_size);
         read_info_header(head, header);
     } else {
-        throw image_error("a bitmap header of " + std::to_string(header.size) +
-                          " bytes, 12 or at least 40 were expected");
+        throw image_error(data::Text::reason_header_size, header.size);
     }
     header.pixels_begin = pixels_begin(header, read_32(head, 10));
     return header;

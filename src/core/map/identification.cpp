@@ -25,17 +25,16 @@ int province_of(Colour colour) {
 }
 
 data::RunTimeError no_such_province(int identifier) {
-    return {data::ErrorNumber::subscript_out_of_range,
-            "province " + std::to_string(identifier) + ", an identifier up to " +
-                std::to_string(data::last_province) + " was expected"};
+    return data::RunTimeError(data::ErrorNumber::subscript_out_of_range,
+                              data::Phrase(data::Text::reason_identifier, data::last_province))
+        .within(data::Phrase(data::Text::place_province, identifier));
 }
 
-std::string place_on_id_map(int x, int y, Colour colour) {
-    std::string text =
-        "ID map, point (" + std::to_string(x) + ", " + std::to_string(y) + "), colour #";
+data::Phrase place_on_id_map(int x, int y, Colour colour) {
+    std::string digits;
     for (int shift = 20; shift >= 0; shift -= 4)
-        text += "0123456789ABCDEF"[colour >> shift & 0xF];
-    return text;
+        digits += "0123456789ABCDEF"[colour >> shift & 0xF];
+    return {data::Text::place_id_map_point, x, y, digits};
 }
 
 } // namespace map

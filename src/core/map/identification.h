@@ -3,7 +3,6 @@
 #include "data/run_time_error.h"
 
 #include <cstdint>
-#include <string>
 
 namespace map {
 
@@ -17,6 +16,6 @@ int province_of(Colour colour);
 data::RunTimeError no_such_province(int identifier);
 
 /// Returns the point of the ID map (pixels) and its colour as the place of an error.
-std::string place_on_id_map(int x, int y, Colour colour);
+data::Phrase place_on_id_map(int x, int y, Colour colour);
 
 } // namespace map

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <string>
 
 namespace map {
@@ -14,7 +15,11 @@ namespace map {
 namespace {
 
 constexpr std::string_view none = "-1";
-constexpr std::string_view sum = "map offset and press added"; // where a press overflows
+
+/// Where a press overflows.
+data::Phrase sum_of_press() {
+    return {data::Text::place_press_and_offset};
+}
 
 void write(data::ProvinceTable& provinces, int province, data::FileColumn column,
            std::string_view text) {
@@ -35,8 +40,8 @@ auto within_column(int province, data::FileColumn column, Function function) {
     try {
         return function();
     } catch (const data::RunTimeError& error) {
-        throw error.within("province " + std::to_string(province) + ", " +
-                           std::string(data::header(column)));
+        throw error.within(std::string(data::header(column)))
+            .within(data::Phrase(data::Text::place_province, province));
     }
 }
 
@@ -79,14 +84,15 @@ void press_right(const PositionColumns& columns, const Click& click, PortPlaceme
 std::string stored_x(const Maps& maps, double press_x) {
     const double x = maps.x_offset + press_x;
     if (!std::isfinite(x))
-        throw data::RunTimeError(data::ErrorNumber::overflow,
-                                 std::string(sum) +
-                                     ": a number of at most 308 digits was expected");
+        throw data::RunTimeError(
+            data::ErrorNumber::overflow,
+            data::Phrase(data::Text::reason_digits, std::numeric_limits<double>::max_exponent10))
+            .within(sum_of_press());
     return data::to_text(x);
 }
 
 std::string stored_y(const Maps& maps, std::int16_t press_y) {
-    return std::to_string(data::to_int16(maps.y_offset + press_y, sum));
+    return std::to_string(data::to_int16(maps.y_offset + press_y, sum_of_press()));
 }
 
 void enter_position(Mode mode, const Click& click, const Maps& maps, PortPlacement& port,

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <string>
 
 namespace map {
 
@@ -62,8 +61,7 @@ void check_run_lengths(std::span<const char> file) {
     const auto begin = std::min<std::uint64_t>(header.pixels_begin, file.size());
     const auto row = row_of_end(file.subspan(static_cast<std::size_t>(begin)), header);
     if (row < header.height)
-        throw image_error("the run-length pixels end in row " + std::to_string(row + 1) +
-                          " of the file, " + std::to_string(header.height) + " rows were expected");
+        throw image_error(data::Text::reason_runs_end, row + 1, header.height);
 }
 
 } // namespace map

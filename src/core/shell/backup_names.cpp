@@ -81,8 +81,8 @@ std::vector<std::string> superfluous_backups(std::span<const std::string> names,
     std::vector<std::string> superfluous;
     for (std::size_t n = 0; n < old; ++n) {
         const BackupName& backup = backups[n];
-        const bool is_recent = backup.time <= now && day_of(backup.time) >= first_day;
-        if (!is_recent || !days_kept.insert(backup.time.substr(0, day_size)).second)
+        if (day_of(backup.time) < first_day ||
+            !days_kept.insert(backup.time.substr(0, day_size)).second)
             superfluous.push_back(backup_name(backup.file, backup.time, backup.number));
     }
     return superfluous;

@@ -29,7 +29,8 @@ struct BackupName {
 bool read_backup_name(std::string_view name, BackupName& backup);
 
 /// Returns those of the names that are backups of the file and need not stay. Backups later than
-/// `now` (YYYYMMDD-HHMMSS) were made while the clock was wrong and count as the oldest.
+/// `now` (YYYYMMDD-HHMMSS) count as the oldest, but the first of each day stays, too: the clock was
+/// wrong when they were made, or is wrong now.
 std::vector<std::string> superfluous_backups(std::span<const std::string> names,
                                              std::string_view file, std::string_view now);
 

@@ -38,8 +38,8 @@ void take_record(const gfx::GraphicsFile& record, Configuration& configuration,
         return;
     }
     if (key->flag)
-        configuration.*key->flag =
-            data::to_int16(data::leading_number(record.set_name), "record " + record.kind);
+        configuration.*key->flag = data::to_int16(data::leading_number(record.set_name),
+                                                  data::Phrase(data::Text::place_flag));
     configuration.*key->value = record.path;
 }
 
@@ -56,8 +56,9 @@ void read_configuration(std::string_view bytes, Configuration& configuration,
         try {
             take_record(record, configuration, receive);
         } catch (const data::RunTimeError& error) {
-            throw error.within("line " + std::to_string(line) + ", record " + record.kind + ", " +
-                               record.path + ", " + record.set_name);
+            throw error.within(record.path + ", " + record.set_name)
+                .within(data::Phrase(data::Text::place_record, record.kind))
+                .within(data::Phrase(data::Text::place_line, line));
         }
     }
 }

@@ -19,7 +19,7 @@ std::size_t list_index(std::string_view prefix) {
                      [prefix](const ListInfo& list) { return list.prefix == prefix; });
     if (found == value_lists.end())
         throw data::RunTimeError(data::ErrorNumber::subscript_out_of_range,
-                                 "value list " + std::string(prefix));
+                                 data::Phrase(Text::reason_unknown_list, prefix));
     return static_cast<std::size_t>(found - value_lists.begin());
 }
 
@@ -27,10 +27,10 @@ void store(std::vector<Entry>& entries, const ListInfo& list, Entry entry, int l
     if (list.keeps_last)
         entries.clear();
     if (entries.size() == list.capacity)
-        throw data::RunTimeError(data::ErrorNumber::subscript_out_of_range,
-                                 "line " + std::to_string(line) + ": at most " +
-                                     std::to_string(list.capacity) + " records with the prefix " +
-                                     std::string(list.prefix) + " were expected");
+        throw data::RunTimeError(
+            data::ErrorNumber::subscript_out_of_range,
+            data::Phrase(Text::reason_too_many_records, list.capacity, list.prefix))
+            .within(data::Phrase(Text::place_line, line));
     entries.push_back(std::move(entry));
 }
 
@@ -51,7 +51,7 @@ void number_texts(std::array<std::string, count>& texts, std::span<const Entry> 
 } // namespace
 
 LanguageTexts::LanguageTexts() {
-    for (const auto& row : texts)
+    for (const auto& row : data::texts)
         own_texts_[row.text] = row.english;
 }
 
@@ -68,19 +68,33 @@ LanguageTexts::LanguageTexts(std::string_view bytes) : LanguageTexts() {
         if (list != value_lists.end())
             store(lists_[static_cast<std::size_t>(list - value_lists.begin())], *list,
                   {key.substr(list->prefix.size()), std::move(text)}, line);
-        else if (data::starts_with_ignoring_case(key, text_prefix))
-            take_own_text(std::string_view(key).substr(text_prefix.size()), std::move(text));
+        else if (data::starts_with_ignoring_case(key, data::text_prefix))
+            take_own_text(std::string_view(key).substr(data::text_prefix.size()), std::move(text));
     }
     number_texts(status_texts_, this->list("MESS_"), "bar(", ")");
     number_texts(message_texts_.values, this->list("MESSAGE_"), "mess", "");
 }
 
 void LanguageTexts::take_own_text(std::string_view key, std::string text) {
-    const auto* row = std::find_if(texts.begin(), texts.end(), [key](const TextInfo& candidate) {
-        return equal_ignoring_case(candidate.key, key);
-    });
-    if (row != texts.end())
+    const auto* row =
+        std::find_if(data::texts.begin(), data::texts.end(), [key](const data::TextInfo& info) {
+            return equal_ignoring_case(info.key, key);
+        });
+    if (row != data::texts.end())
         own_texts_[row->text] = std::move(text);
+}
+
+std::string LanguageTexts::text(const std::exception& error) const {
+    const auto* run_time_error = dynamic_cast<const data::RunTimeError*>(&error);
+    return run_time_error ? run_time_error->in(dictionary()) : error.what();
+}
+
+std::string LanguageTexts::text(const data::Place& place) const {
+    return place.in(dictionary());
+}
+
+data::Dictionary LanguageTexts::dictionary() const {
+    return [this](Text wanted) -> std::string_view { return own_texts_[wanted]; };
 }
 
 std::span<const Entry> LanguageTexts::list(std::string_view prefix) const {
@@ -120,7 +134,7 @@ std::string code_of_text(std::span<const Entry> list, std::size_t capacity, std:
     if (text.empty() && list.size() < capacity)
         return {};
     throw data::RunTimeError(data::ErrorNumber::subscript_out_of_range,
-                             "\"" + std::string(text) + "\" is none of the list's texts");
+                             data::Phrase(Text::reason_unknown_text, text));
 }
 
 int index_of_code(std::span<const Entry> list, std::string_view code) {

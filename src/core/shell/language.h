@@ -2,9 +2,11 @@
 
 #include "data/indexed_array.h"
 #include "data/message.h"
-#include "shell/texts.h"
+#include "data/place.h"
+#include "data/texts.h"
 
 #include <array>
+#include <exception>
 #include <initializer_list>
 #include <optional>
 #include <span>
@@ -13,6 +15,8 @@
 #include <vector>
 
 namespace shell {
+
+using data::Text;
 
 /// A record of a value list: what stands behind the list's prefix in the key, and the text.
 struct Entry {
@@ -79,16 +83,23 @@ class LanguageTexts {
 
     /// Returns the text with %1, %2 and so on replaced by the values.
     std::string text(Text text, std::initializer_list<std::string_view> values) const {
-        return filled(own_texts_[text], values);
+        return data::filled(own_texts_[text], {values.begin(), values.end()});
     }
 
+    /// Returns the error's words: those of a run-time error in this language.
+    std::string text(const std::exception& error) const;
+
+    /// Returns in this language where something was wrong, and what.
+    std::string text(const data::Place& place) const;
+
   private:
+    data::Dictionary dictionary() const;
     void take_own_text(std::string_view key, std::string text);
 
     std::array<std::vector<Entry>, value_lists.size()> lists_;
     data::IndexedArray<data::Message, std::string, 18> message_texts_;
     std::array<std::string, 7> status_texts_;
-    data::IndexedArray<Text, std::string, text_count> own_texts_;
+    data::IndexedArray<Text, std::string, data::text_count> own_texts_;
 };
 
 /// Returns the code whose text is the given one, letter case aside; of several the first, and empty

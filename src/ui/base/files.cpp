@@ -15,20 +15,21 @@ namespace base {
 namespace {
 
 using data::ErrorNumber;
+using data::Phrase;
 using data::RunTimeError;
+using data::Text;
 
-[[noreturn]] void throw_error(ErrorNumber number, const QString& path, const QString& reason) {
-    throw RunTimeError(number, path_bytes(QDir::toNativeSeparators(path) + ": " + reason));
+[[noreturn]] void throw_error(ErrorNumber number, const QString& path, const Phrase& reason) {
+    throw RunTimeError(number, reason).within(path_bytes(QDir::toNativeSeparators(path)));
 }
 
 /// Throws what an access to the path fails with before the file itself is opened.
 void check_place(const QString& path) {
     const QFileInfo file(path);
     if (file.exists() && !file.isFile())
-        throw_error(ErrorNumber::path_file_access, path,
-                    QStringLiteral("a file was expected here"));
+        throw_error(ErrorNumber::path_file_access, path, Text::reason_not_a_file);
     if (!file.absoluteDir().exists())
-        throw_error(ErrorNumber::path_not_found, path, QStringLiteral("the folder does not exist"));
+        throw_error(ErrorNumber::path_not_found, path, Text::reason_no_folder);
 }
 
 /// Returns where the last of a chain of links leads, be there a file or not.
@@ -45,10 +46,10 @@ std::string read_file(std::string_view path, std::size_t at_most) {
     const QString native = native_path(path);
     check_place(native);
     if (!QFileInfo::exists(native))
-        throw_error(ErrorNumber::file_not_found, native, QStringLiteral("there is no such file"));
+        throw_error(ErrorNumber::file_not_found, native, Text::reason_no_file);
     QFile file(native);
     if (!file.open(QIODevice::ReadOnly))
-        throw_error(ErrorNumber::permission_denied, native, file.errorString());
+        throw_error(ErrorNumber::permission_denied, native, path_bytes(file.errorString()));
     const auto wanted = std::min(static_cast<std::size_t>(file.size()), at_most);
     // An empty file is asked for a byte, too: an error of the disk looks like the end until then.
     std::string bytes(std::max<std::size_t>(wanted, 1), '\0');
@@ -59,10 +60,7 @@ std::string read_file(std::string_view path, std::size_t at_most) {
     }
     if (file.error() != QFileDevice::NoError || count < wanted)
         throw_error(ErrorNumber::path_file_access, native,
-                    QStringLiteral("only %1 of its %2 bytes could be read (%3)")
-                        .arg(count)
-                        .arg(wanted)
-                        .arg(file.errorString()));
+                    {Text::reason_not_whole, count, wanted, path_bytes(file.errorString())});
     bytes.resize(wanted);
     return bytes;
 }

@@ -1,8 +1,8 @@
 #include "base/messages.h"
 
 #include "base/shown_text.h"
-#include "shell/error_text.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -18,6 +18,13 @@ class Box : public QMessageBox {
   public:
     using QMessageBox::QMessageBox;
     EscapeKey escape = EscapeKey::is_no;
+
+    /// A key that is held since before the box came up does not press a button.
+    bool eventFilter(QObject* button, QEvent* event) override {
+        const bool is_held =
+            event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat();
+        return is_held || QMessageBox::eventFilter(button, event);
+    }
 
   protected:
     void keyPressEvent(QKeyEvent* event) override {
@@ -42,6 +49,8 @@ int show_box(QWidget* owner, const char* name, QMessageBox::Icon icon, const std
     // Text that can be marked also breaks within a long path instead of leaving the box.
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     box.setDefaultButton(preset);
+    for (QAbstractButton* button : box.buttons())
+        button->installEventFilter(&box);
     return box.exec();
 }
 
@@ -70,8 +79,9 @@ bool ask(const shell::Session& session, QWidget* owner, const std::string& text,
 }
 
 void show_error(const shell::Session& session, QWidget* owner, const data::RunTimeError& error) {
-    throw_if_unattended(session, error.what());
-    show_error_box(owner, text_of(error, session.language));
+    const std::string text = session.language.text(error);
+    throw_if_unattended(session, text);
+    show_error_box(owner, text);
 }
 
 void show_error_box(QWidget* owner, const std::string& text) {

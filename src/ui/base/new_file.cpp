@@ -33,8 +33,9 @@ ErrorNumber number_of(const std::error_code& error) {
 }
 
 [[noreturn]] void throw_error(const QString& path, const std::error_code& error) {
-    throw data::RunTimeError(number_of(error), path_bytes(QDir::toNativeSeparators(path) + ": " +
-                                                          QString::fromLocal8Bit(error.message())));
+    throw data::RunTimeError(number_of(error),
+                             data::Phrase(path_bytes(QString::fromLocal8Bit(error.message()))))
+        .within(path_bytes(QDir::toNativeSeparators(path)));
 }
 
 std::filesystem::path system_path(const QString& path) {

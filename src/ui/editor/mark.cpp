@@ -21,13 +21,15 @@ QString as_tool_tip(const QString& text) {
     return QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped());
 }
 
-/// Returns nothing but the colour of placeholders: not every dark palette has one that can be read.
-QPalette readable_placeholder(const QPalette& palette) {
-    QColor colour = palette.color(QPalette::Text);
+/// Gives the control's placeholder a colour: not every dark palette has one that can be read.
+void make_placeholder_readable(QWidget& control) {
+    QColor colour = control.palette().color(QPalette::Text);
     colour.setAlpha(placeholder_opacity);
+    if (control.palette().color(QPalette::PlaceholderText) == colour)
+        return;
     QPalette readable;
     readable.setColor(QPalette::PlaceholderText, colour);
-    return readable;
+    control.setPalette(readable);
 }
 
 } // namespace
@@ -44,7 +46,7 @@ void Mark::set_shown(bool shown) {
     const QString words = shown ? words_ : QString();
     control_.setAccessibleDescription(words);
     if (control_.metaObject()->indexOfProperty(placeholder) >= 0) {
-        control_.setPalette(readable_placeholder(control_.palette()));
+        make_placeholder_readable(control_);
         control_.setProperty(placeholder, words);
     }
     if (!shown)
@@ -56,6 +58,8 @@ void Mark::set_shown(bool shown) {
 bool Mark::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize) {
         resize(control_.size());
+    } else if (event->type() == QEvent::PaletteChange) {
+        make_placeholder_readable(control_); // the desktop may turn dark meanwhile
     } else if (event->type() == QEvent::ToolTip && !isHidden()) {
         QString text = tip_();
         if (const QString lasting = control_.toolTip(); !lasting.isEmpty())

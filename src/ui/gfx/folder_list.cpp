@@ -90,10 +90,10 @@ void FolderList::open(std::string_view path) {
     // A current folder that was deleted has no path, so that none can be made absolute.
     const bool is_absolute = QDir::isAbsolutePath(folder);
     if (!is_absolute || !QDir(folder).exists())
-        throw data::RunTimeError(
-            data::ErrorNumber::path_not_found,
-            (is_absolute ? base::path_bytes(QDir::toNativeSeparators(folder)) : std::string(path)) +
-                ": the folder does not exist");
+        throw data::RunTimeError(data::ErrorNumber::path_not_found,
+                                 data::Phrase(data::Text::reason_no_folder))
+            .within(is_absolute ? base::path_bytes(QDir::toNativeSeparators(folder))
+                                : std::string(path));
     list(folder);
 }
 

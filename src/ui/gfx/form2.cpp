@@ -164,11 +164,6 @@ void Form2::confirm() {
         base::show_message(session_, this, session_.language.message(data::Message::map_missing));
         return;
     }
-    if (!base::is_storable_path(map_1) || !base::is_storable_path(map_2) ||
-        !base::is_storable_path(id_map)) {
-        base::show_unstorable(session_, this);
-        return;
-    }
     session_.cancelled_flag = confirmed;
     map::Maps& maps = session_.maps;
     maps.map_1_path = base::stored_path(map_1);

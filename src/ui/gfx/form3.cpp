@@ -200,8 +200,8 @@ void Form3::take_set_out(SpriteKind kind) {
     --graphics.sprites.of(kind).count;
     if (selected.isEmpty())
         throw data::RunTimeError(data::ErrorNumber::invalid_procedure_call,
-                                 "sprite sets of the kind " + std::string(info(kind).word) +
-                                     ": no set is selected, one to take out was expected");
+                                 data::Phrase(data::Text::reason_no_set_chosen))
+            .within(data::Phrase(data::Text::place_sprite_sets, info(kind).word));
     delete selected.front();
     auto& previewed = graphics.previewed_row[kind];
     const auto& rows = graphics.sprites.of(kind).rows;

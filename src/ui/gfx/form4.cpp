@@ -189,8 +189,9 @@ void Form4::show_drive_of(std::string_view path) {
     const int index = drives_->findText(base::to_qstring(path.substr(0, 1)), Qt::MatchStartsWith);
     if (path.empty() || index < 0)
         throw data::RunTimeError(data::ErrorNumber::path_not_found,
-                                 "the location " + std::string(location().name) + ", \"" +
-                                     std::string(path) + "\": a path on a drive was expected");
+                                 data::Phrase(data::Text::reason_no_drive))
+            .within('"' + std::string(path) + '"')
+            .within(data::Phrase(data::Text::place_location, location().name));
     drives_->setCurrentIndex(index);
 }
 

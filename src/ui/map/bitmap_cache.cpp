@@ -1,7 +1,6 @@
 #include "map/bitmap_cache.h"
 
 #include "base/files.h"
-#include "base/qt_text.h"
 #include "base/stored_path.h"
 #include "map/decode_image.h"
 #include "map/image_error.h"
@@ -13,10 +12,6 @@
 namespace map {
 
 namespace {
-
-constexpr const char* no_opaque_pixel =
-    "all pixels have the colour of the top left one, which is transparent; a frame with another "
-    "colour was expected";
 
 /// Makes every pixel of the colour that the top left pixel of the bitmap has transparent.
 QImage with_transparency(const QImage& opaque) {
@@ -44,10 +39,10 @@ Bitmap read_first_frame(const std::string& path, int frames) {
         const int width = std::max(all.width() / std::max(frames, 1), 1);
         QImage frame = with_transparency(all.copy(0, 0, width, all.height()));
         if (!has_opaque_pixel(frame))
-            throw image_error(base::shown_path(path) + ": " + no_opaque_pixel);
+            throw image_error(data::Text::reason_transparent).within(base::shown_path(path));
         return {frame, {}};
     } catch (const data::RunTimeError& error) {
-        return {{}, base::to_qstring(error.place())};
+        return {{}, error.place()};
     }
 }
 

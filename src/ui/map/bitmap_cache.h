@@ -1,10 +1,13 @@
 #pragma once
 
+#include "data/place.h"
+
 #include <QDateTime>
 #include <QImage>
 #include <QString>
 
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -12,8 +15,8 @@ namespace map {
 
 /// What a bitmap file shows on the map.
 struct Bitmap {
-    QImage image;    // null when there is nothing to show
-    QString problem; // why, with the file
+    QImage image;                       // null when there is nothing to show
+    std::optional<data::Place> problem; // why, with the file
 };
 
 /// Bitmaps that are read once and kept until their file changes.

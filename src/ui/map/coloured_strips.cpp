@@ -25,8 +25,8 @@ void ColouredStrips::read(const QRect& shown, ZoomLevel level, QImage& target) {
         colours_->tint(row_of(ids_, row, shown.width()), row_of(target, row, shown.width()));
 }
 
-const QString& ColouredStrips::problem() const {
-    return map_.problem().isEmpty() ? id_map_.problem() : map_.problem();
+const std::optional<data::Place>& ColouredStrips::problem() const {
+    return map_.problem() ? map_.problem() : id_map_.problem();
 }
 
 } // namespace map

@@ -17,7 +17,7 @@ class ColouredStrips : public StripReader {
                    std::shared_ptr<const FieldColours> colours);
 
     void read(const QRect& shown, ZoomLevel level, QImage& target) override;
-    const QString& problem() const override;
+    const std::optional<data::Place>& problem() const override;
 
   private:
     MapReader map_;

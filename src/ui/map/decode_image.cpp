@@ -25,18 +25,14 @@ void check_is_whole(std::string_view file) {
 }
 
 data::RunTimeError too_large(QSize size) {
-    return image_error("the image's " + std::to_string(size.width()) + " x " +
-                       std::to_string(size.height()) + " pixels take more memory than there is");
+    return image_error(data::Text::reason_image_memory, size.width(), size.height());
 }
 
 void check_size(QSize size) {
     const qint64 megabytes = qint64{4} * size.width() * size.height() >> 20;
     if (megabytes > most_megabytes)
-        throw image_error("an image of " + std::to_string(size.width()) + " x " +
-                          std::to_string(size.height()) + " pixels takes " +
-                          std::to_string(megabytes) + " MB of memory, at most " +
-                          std::to_string(most_megabytes) +
-                          " MB were expected; an uncompressed bitmap needs none");
+        throw image_error(data::Text::reason_image_too_large, size.width(), size.height(),
+                          megabytes, most_megabytes);
 }
 
 /// Makes 256 opaque colours of those that the image has.
@@ -80,8 +76,7 @@ QImage decode(const std::string& file) {
     check_size(reader.size());
     QImage image = reader.read();
     if (image.isNull())
-        throw image_error("a bitmap or another image was expected (" +
-                          base::to_bytes(reader.errorString()) + ")");
+        throw image_error(data::Text::reason_no_image, base::to_bytes(reader.errorString()));
     const QSize size = image.size();
     check_size(size); // not every format tells it before
     simplify(image);
@@ -96,7 +91,7 @@ QImage decode_image(std::string_view path) {
     const std::string file = base::read_file(path);
     try {
         if (file.empty())
-            throw image_error("the file is empty, an image was expected");
+            throw image_error(data::Text::reason_empty_image);
         check_is_whole(file);
         return decode(file);
     } catch (const data::RunTimeError& error) {

@@ -65,7 +65,7 @@ Form1::Form1(shell::Session& session, QWidget* parent)
     connect(view_, &MapView::hovered, this, &Form1::hover);
     connect(view_, &MapView::clicked, this, &Form1::click);
     connect(view_, &MapView::tabbed, this, &Form1::tabbed);
-    connect(view_, &MapView::problem, this, &Form1::tell);
+    connect(view_, &MapView::problem, this, &Form1::tell_place);
     connect(&overlay_, &OverlayPreview::problem, this, &Form1::tell);
     session_.port_placement.stage = 0;
     show_map(ShownMap::map_1);
@@ -133,10 +133,15 @@ bool Form1::follow_file(MapImage& image) {
 }
 
 void Form1::tell(const QString& reason) {
-    if (reason.isEmpty() || told_.contains(reason))
+    if (told_.contains(reason))
         return;
     told_.insert(reason);
     emit problem(reason);
+}
+
+void Form1::tell_place(const std::optional<data::Place>& place) {
+    if (place)
+        tell(base::message_text(session_.language.text(*place)));
 }
 
 // --- the pointer
@@ -178,7 +183,7 @@ void Form1::select(const IdMapPoint& clicked, ShiftState shift) {
 
 void Form1::enter_position(const QMouseEvent& event, int province) {
     const Click click{button_of(event.button()), shift_state(event.modifiers()), pressed_.x(),
-                      data::to_int16(pressed_.y(), "Y of the press on the map"), province};
+                      data::to_int16(pressed_.y(), data::Text::place_press_y), province};
     const PortPlacement& port = session_.port_placement;
     const bool sea_was_awaited = port.stage == 1;
     const QRect before = shown_graphics(province);
@@ -201,7 +206,7 @@ std::optional<Form1::IdMapPoint> Form1::id_map_point(const QPointF& position) {
                        static_cast<int>(std::floor(position.y())));
     MapReader reader(id_map_);
     const auto colour = reader.colour_at(point);
-    tell(reader.problem());
+    tell_place(reader.problem());
     if (!colour)
         return {};
     return IdMapPoint{point, *colour, province_of(*colour)};
@@ -218,7 +223,7 @@ void Form1::work_out_dots() {
     dots_ = SelectionDots(
         map_1_.size().width(), map_1_.size().height(), session_.selection,
         [&reader](int y, std::span<Pixel> pixels) { reader.read_row(y, 0, dot_spacing, pixels); });
-    tell(reader.problem());
+    tell_place(reader.problem());
     if (dots_.foreign_point() && !std::exchange(foreign_point_reported_, true))
         // What was begun, be it the opening of the maps or a new selection, is finished first.
         QMetaObject::invokeMethod(

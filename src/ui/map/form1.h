@@ -62,7 +62,7 @@ class Form1 : public QWidget {
     void pointed(int province, const QPointF& position);
     /// The identifier was clicked in normal mode: to be added to the selection, or to replace it.
     /// `place` is the point and its colour, as the place of an error for one above 2018.
-    void province_clicked(int identifier, bool add, const std::string& place);
+    void province_clicked(int identifier, bool add, const data::Phrase& place);
     /// Why a map or a graphic cannot be shown; once until mode, maps or graphics change.
     void problem(const QString& text);
     /// The files of maps were changed, and the maps are read from them anew.
@@ -77,7 +77,7 @@ class Form1 : public QWidget {
         Colour colour = 0;
         int identifier = 0;
 
-        std::string as_place() const { return place_on_id_map(point.x(), point.y(), colour); }
+        data::Phrase as_place() const { return place_on_id_map(point.x(), point.y(), colour); }
     };
 
     void hover(const QPointF& position);
@@ -91,6 +91,7 @@ class Form1 : public QWidget {
     void show_foreign_point(const ForeignPoint& point);
     void draw_above(QPainter& painter, const QRegion& exposed);
     void tell(const QString& reason);
+    void tell_place(const std::optional<data::Place>& place);
 
     shell::Session& session_;
     MapImage map_1_;

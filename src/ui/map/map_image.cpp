@@ -1,7 +1,6 @@
 #include "map/map_image.h"
 
 #include "base/files.h"
-#include "base/qt_text.h"
 #include "base/stored_path.h"
 #include "data/run_time_error.h"
 #include "map/decode_image.h"
@@ -23,12 +22,6 @@ namespace map {
 namespace {
 
 constexpr Pixel unreadable = 0xFF808080;
-
-// Why a map is grey.
-constexpr const char* other_kind =
-    "the file is no longer an uncompressed bitmap, as it was when the maps were opened";
-constexpr const char* other_size = "the bitmap has %1 x %2 pixels now, %3 x %4 were expected";
-constexpr const char* ends_early = "the file ends before the pixels of row %1";
 
 QSize size_of(const BitmapLayout& layout) {
     return {layout.width, layout.height};
@@ -115,7 +108,7 @@ MapReader::MapReader(const MapImage& image) : image_(image) {
         return;
     file_.setFileName(image.file_name_);
     if (!file_.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        note_problem(file_.errorString());
+        note_problem(data::Phrase(base::path_bytes(file_.errorString())));
         return;
     }
     std::array<char, bitmap_head_size> buffer = {};
@@ -133,25 +126,22 @@ void MapReader::read_new_layout(std::string_view head) {
         constexpr auto any_size = std::numeric_limits<std::uint64_t>::max();
         new_layout_ = read_bitmap_layout(head, any_size);
     } catch (const data::RunTimeError& error) {
-        note_problem(base::to_qstring(error.place()));
+        note_problem(error.place());
         return;
     }
     if (!new_layout_) {
-        note_problem(QString::fromLatin1(other_kind));
+        note_problem(data::Phrase(data::Text::reason_other_kind));
     } else if (const QSize now = size_of(*new_layout_); now != image_.size_) {
-        note_problem(QString::fromLatin1(other_size)
-                         .arg(now.width())
-                         .arg(now.height())
-                         .arg(image_.size_.width())
-                         .arg(image_.size_.height()));
+        note_problem(data::Phrase(data::Text::reason_other_size, now.width(), now.height(),
+                                  image_.size_.width(), image_.size_.height()));
     } else {
         layout_ = &*new_layout_;
     }
 }
 
-void MapReader::note_problem(const QString& reason) {
-    if (problem_.isEmpty())
-        problem_ = QDir::toNativeSeparators(image_.file_name_) + ": " + reason;
+void MapReader::note_problem(const data::Place& reason) {
+    if (!problem_)
+        problem_ = reason.within(base::path_bytes(QDir::toNativeSeparators(image_.file_name_)));
 }
 
 std::optional<Colour> MapReader::colour_at(QPoint point) {
@@ -174,7 +164,9 @@ bool MapReader::read_pixels(int y, int first_x, int step, std::span<Pixel> pixel
     const FilePart part = part_of_row(*layout_, y, first_x, last_x);
     bytes_.resize(part.size);
     if (!read_at(file_, part.begin, bytes_)) {
-        note_problem(QString::fromLatin1(ends_early).arg(y));
+        note_problem(file_.error() == QFileDevice::NoError
+                         ? data::Phrase(data::Text::reason_row_missing, y)
+                         : data::Phrase(base::path_bytes(file_.errorString())));
         return false;
     }
     decode_pixels(*layout_, bytes_, first_x, step, pixels);

@@ -72,13 +72,13 @@ class MapReader : public StripReader {
     /// the level; no_pixel outside the image (of a smaller map) and where it cannot be read.
     void read_samples(const QRect& shown, ZoomLevel level, QImage& target);
 
-    /// Returns why something inside the image could not be read, with the file; empty while all
+    /// Returns why something inside the image could not be read, with the file; nothing while all
     /// could.
-    const QString& problem() const override { return problem_; }
+    const std::optional<data::Place>& problem() const override { return problem_; }
 
   private:
     void read_new_layout(std::string_view head);
-    void note_problem(const QString& reason);
+    void note_problem(const data::Place& reason);
     bool read_pixels(int y, int first_x, int step, std::span<Pixel> pixels);
     bool read_shown_row(int y, int first_shown_x, ZoomLevel level, std::span<Pixel> shown);
     bool read_pairs(int y, int first_shown_x, ZoomLevel level, std::vector<Pixel>& pairs);
@@ -92,7 +92,7 @@ class MapReader : public StripReader {
     std::vector<char> bytes_;
     std::vector<Pixel> row_; // kept from one row to the next, like the bytes
     std::vector<Pixel> next_row_;
-    QString problem_;
+    std::optional<data::Place> problem_;
 };
 
 } // namespace map

@@ -66,7 +66,7 @@ class MapView : public QScrollArea {
     void clicked(const QMouseEvent& event, const QPointF& position);
     void level_changed(ZoomLevel level);
     /// A part of a map could not be read, and is grey.
-    void problem(const QString& reason);
+    void problem(const data::Place& reason);
     /// Tab, or Shift+Tab when not `forward`, is to move the focus out of the map.
     void tabbed(bool forward);
 

@@ -1,6 +1,6 @@
 #include "map/overlay_preview.h"
 
-#include "base/captions.h"
+#include "base/shown_text.h"
 #include "base/stored_path.h"
 #include "data/columns.h"
 #include "data/numbers.h"
@@ -139,6 +139,7 @@ void OverlayPreview::ajout_graph(QPainter& painter, const QRegion& exposed, Zoom
     if (session_.mode == Mode::normal)
         return;
     bitmaps_.look_again();
+    told_.clear();
     if (std::exchange(level_of_small_, level) != level)
         small_.clear();
     const QRect largest = largest_extent(level);
@@ -158,8 +159,10 @@ void OverlayPreview::ajout_graph(QPainter& painter, const QRegion& exposed, Zoom
 void OverlayPreview::ajout_graphique(QPainter& painter, const StoredPosition& position,
                                      ZoomLevel level, int pointed_province, Outlines& outlines) {
     const Graphic graphic = graphic_of(position);
-    if (!graphic.problem.isEmpty())
-        emit problem(graphic.problem);
+    if (graphic.problem && !told_.contains(graphic.problem)) {
+        told_.insert(graphic.problem);
+        emit problem(base::message_text(session_.language.text(*graphic.problem)));
+    }
     const QRect picture = picture_rect(*graphic.image, graphic.origin, position, level);
     draw(painter, picture, *graphic.image);
 
@@ -206,22 +209,24 @@ OverlayPreview::Graphic OverlayPreview::graphic_of(const StoredPosition& positio
 }
 
 OverlayPreview::Graphic OverlayPreview::sprite_graphic(gfx::SpriteKind kind) const {
+    static const data::Place no_sprite_set(data::Text::reason_no_sprite_set);
     const auto& rows = session_.graphics.sprites.of(kind).rows;
     const auto row = static_cast<std::size_t>(session_.graphics.previewed_row[kind]);
     if (row >= rows.size() || rows[row].bitmap_path.empty())
-        return marker(base::own_text(session_.language, shell::Text::reason_no_sprite_set));
+        return marker(&no_sprite_set);
     const auto& sprite = rows[row];
     const Bitmap& bitmap = bitmaps_.first_frame(sprite.bitmap_path, sprite.frames);
     if (bitmap.image.isNull())
-        return marker(bitmap.problem);
-    return {&bitmap.image, {sprite.origin_x, sprite.origin_y}, {}};
+        return marker(&*bitmap.problem);
+    return {&bitmap.image, {sprite.origin_x, sprite.origin_y}};
 }
 
 OverlayPreview::Graphic OverlayPreview::drawing_graphic(const StoredPosition& position) const {
+    static const data::Place no_terrain_art(data::Text::reason_no_terrain_art);
     if (!session_.graphics.shows_drawings)
         return marker();
     if (!shows_drawings())
-        return marker(base::own_text(session_.language, shell::Text::reason_no_terrain_art));
+        return marker(&no_terrain_art);
     const auto cell = [&](data::FileColumn column) -> const std::string& {
         return session_.provinces.cell(position.province, data::table_column(column));
     };
@@ -229,8 +234,8 @@ OverlayPreview::Graphic OverlayPreview::drawing_graphic(const StoredPosition& po
         cell(data::column::terrain), cell(data::column::climate),
         cell(data::column::drawing_variant.at(static_cast<std::size_t>(position.drawing)))));
     if (art.image.isNull())
-        return marker(art.problem);
-    return {&art.image, {art.image.width() / 2, art.image.height() / 2}, {}};
+        return marker(&*art.problem);
+    return {&art.image, {art.image.width() / 2, art.image.height() / 2}};
 }
 
 /// An art folder that turned out to be incomplete takes the menu's check mark with it.

@@ -11,6 +11,7 @@
 #include <QPoint>
 #include <QRect>
 #include <QRegion>
+#include <QSet>
 #include <QString>
 
 #include <string>
@@ -40,7 +41,7 @@ class OverlayPreview : public QObject {
     QRect bounds(int province, ZoomLevel level) const;
 
   signals:
-    /// Why a marker stands for a picture, in the user's terms; for every marker that is painted.
+    /// Why a marker stands for a picture, in the user's terms; once for a painting.
     void problem(const QString& reason);
 
   private:
@@ -49,7 +50,7 @@ class OverlayPreview : public QObject {
     struct Graphic {
         const QImage* image;
         QPoint origin;
-        QString problem;
+        const data::Place* problem = nullptr; // kept by the bitmap
     };
 
     /// Rectangles of graphics, with the colours of their outlines.
@@ -62,7 +63,9 @@ class OverlayPreview : public QObject {
     Graphic graphic_of(const StoredPosition& position) const;
     Graphic sprite_graphic(gfx::SpriteKind kind) const;
     Graphic drawing_graphic(const StoredPosition& position) const;
-    Graphic marker(const QString& problem = {}) const { return {&marker_, marker_origin, problem}; }
+    Graphic marker(const data::Place* problem = nullptr) const {
+        return {&marker_, marker_origin, problem};
+    }
     bool shows_drawings() const;
     const Bitmap& terrain_art(const std::string& file) const;
 
@@ -75,6 +78,7 @@ class OverlayPreview : public QObject {
     const shell::Session& session_;
     QImage marker_;
     mutable BitmapCache bitmaps_;       // what it keeps is what the files hold
+    QSet<const data::Place*> told_;     // while it paints
     mutable QHash<int, QImage> labels_; // by sea; to write a text costs many times an image
     QHash<qint64, QImage> small_;       // by the image that was made smaller, for one level
     ZoomLevel level_of_small_;

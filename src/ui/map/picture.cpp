@@ -53,8 +53,8 @@ void Picture::paintEvent(QPaintEvent* event) {
         }
     }
     draw_above_(painter, event->region());
-    if (!strips->problem().isEmpty())
-        emit problem(strips->problem());
+    if (strips->problem())
+        emit problem(*strips->problem());
 }
 
 } // namespace map

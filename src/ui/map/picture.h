@@ -36,7 +36,7 @@ class Picture : public QWidget {
     void moved(const QMouseEvent& event);
     void released(const QMouseEvent& event);
     /// A part of the image could not be read, and is grey.
-    void problem(const QString& reason);
+    void problem(const data::Place& reason);
 
   protected:
     void paintEvent(QPaintEvent* event) override;

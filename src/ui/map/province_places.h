@@ -19,8 +19,9 @@ class ProvincePlaces {
     /// Returns the identifier at the point (pixels); 0 outside the map and where it cannot be read.
     int province_at(int x, int y) const;
 
-    /// Returns why something of the map could not be read, with the file; empty while all could.
-    const QString& problem() const { return reader_.problem(); }
+    /// Returns why something of the map could not be read, with the file; nothing while all
+    /// could.
+    const std::optional<data::Place>& problem() const { return reader_.problem(); }
 
   private:
     const MapImage& id_map_;

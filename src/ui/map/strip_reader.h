@@ -1,13 +1,14 @@
 #pragma once
 
+#include "data/place.h"
 #include "map/zoom_level.h"
 
 #include <QImage>
 #include <QRect>
-#include <QString>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace map {
 
@@ -25,8 +26,8 @@ class StripReader {
     /// larger, with the rectangle (shown pixels, inside the surface) of what is shown at the level.
     virtual void read(const QRect& shown, ZoomLevel level, QImage& target) = 0;
 
-    /// Returns why something could not be read, with the file; empty while all could.
-    virtual const QString& problem() const = 0;
+    /// Returns why something could not be read, with the file; nothing while all could.
+    virtual const std::optional<data::Place>& problem() const = 0;
 };
 
 /// Opens what is to be shown of the map for one painting; never null.

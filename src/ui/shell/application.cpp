@@ -3,7 +3,6 @@
 #include "base/files.h"
 #include "base/messages.h"
 #include "base/shown_text.h"
-#include "shell/error_text.h"
 #include "shell/icon.h"
 
 #include <iostream>
@@ -15,7 +14,7 @@ Application::Application(int& argc, char** argv, Session& session, std::function
     : QApplication(argc, argv),
       session_(session),
       copies_(session),
-      copy_timer_(copies_),
+      copy_timer_(copies_, session_),
       end_(std::move(end)) {
     setApplicationName(QString::fromLatin1(application_name));
     setWindowIcon(program_icon());
@@ -36,9 +35,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 void Application::end_with_error(const std::exception& error) {
-    const auto* run_time_error = dynamic_cast<const data::RunTimeError*>(&error);
-    std::string text =
-        run_time_error ? text_of(*run_time_error, session_.language) : std::string(error.what());
+    std::string text = session_.language.text(error);
     const std::string kept = recover_all();
     text += "\n\n" + session_.language.text(Text::error_program_ends) + " " +
             (kept.empty() ? session_.language.text(Text::error_nothing_unsaved) : kept);
@@ -77,7 +74,12 @@ std::string Application::recover_all() noexcept {
         return session_.language.text(Text::recovery_copy_written,
                                       {base::shown_path(copies_.own())});
     } catch (const std::exception& error) {
-        return session_.language.text(Text::recovery_copy_failed, {error.what()});
+        const auto& language = session_.language;
+        const std::string text = language.text(Text::recovery_copy_failed, {language.text(error)});
+        if (copies_.own().empty())
+            return text;
+        return text + "\n" +
+               language.text(Text::recovery_copy_older, {base::shown_path(copies_.own())});
     }
 }
 

@@ -32,7 +32,8 @@ void write_backup(const std::string& program_folder, const std::string& name,
     const std::string folder = backups_in(program_folder);
     if (!QDir().mkpath(base::native_path(folder)))
         throw data::RunTimeError(data::ErrorNumber::path_file_access,
-                                 base::shown_path(folder) + ": the folder cannot be made");
+                                 data::Phrase(Text::reason_folder_not_made))
+            .within(base::shown_path(folder));
     for (int number = 1;
          !base::create_file(base::in_folder(folder, backup_name(name, time, number)), bytes);)
         ++number;

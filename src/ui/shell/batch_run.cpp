@@ -30,13 +30,6 @@ constexpr int nothing_found = 0;
 constexpr int something_found = 1;
 constexpr int file_failed = 3;
 
-// Texts for standard error, where nobody chose a language.
-constexpr const char* no_province = ": no province was found";
-constexpr const char* rows_lost =
-    ": rows behind a line feed alone are not read, the file has more provinces than that; --check "
-    "tells where";
-constexpr const char* output_failed = "The output could not be written";
-
 void tell(const std::string& text) {
     std::cerr << base::message_text(text).toStdString() << std::endl;
 }
@@ -59,7 +52,7 @@ bool loses_provinces(std::string bytes, const data::ReadReport& report) {
 /// Reads the file's bytes into the table. Throws for a bad line that ends the reading; then what
 /// else would not be read ends it, too, since nobody may be there to see a notice.
 void read(const std::string& path, const std::string& bytes, data::ProvinceTable& table,
-          data::BadLine bad_line) {
+          data::BadLine bad_line, const LanguageTexts& language) {
     data::ReadReport report;
     try {
         report = data::read_provinces(bytes, table, data::Source::file, bad_line);
@@ -70,9 +63,9 @@ void read(const std::string& path, const std::string& bytes, data::ProvinceTable
     if (bad_line == data::BadLine::is_passed_over)
         return;
     if (report.provinces == 0)
-        throw std::runtime_error(base::shown_path(path) + no_province);
+        throw std::runtime_error(language.text(Text::batch_no_province, {base::shown_path(path)}));
     if (loses_provinces(bytes, report))
-        throw std::runtime_error(base::shown_path(path) + rows_lost);
+        throw std::runtime_error(language.text(Text::batch_rows_lost, {base::shown_path(path)}));
 }
 
 void save(Session& session, const std::string& path) {
@@ -80,7 +73,7 @@ void save(Session& session, const std::string& path) {
     try {
         back_up(session, path);
     } catch (const data::RunTimeError& error) {
-        notice = session.language.text(Text::notice_backup_failed, {error.what()});
+        notice = session.language.text(Text::notice_backup_failed, {session.language.text(error)});
     }
     base::replace_file(path, data::write_provinces(session.provinces));
     session.provinces.mark_saved();
@@ -101,9 +94,8 @@ std::vector<Problem> check_maps(const Session& session, const map::Maps& maps,
                                  {size.width(), size.height(), maps, places.index(),
                                   [&](int x, int y) { return places.province_at(x, y); }},
                                  lines);
-    if (!places.problem().isEmpty())
-        throw data::RunTimeError(data::ErrorNumber::path_file_access,
-                                 base::path_bytes(places.problem()));
+    if (const auto& problem = places.problem())
+        throw data::RunTimeError(data::ErrorNumber::path_file_access, *problem);
     return problems;
 }
 
@@ -124,10 +116,10 @@ bool print_problems(const Session& session, const CommandLine& line, const std::
 }
 
 /// Prints in what the table differs from the earlier file. Returns whether it does.
-bool print_differences(const data::ProvinceTable& now, const std::string& path) {
+bool print_differences(const Session& session, const std::string& path) {
     data::ProvinceTable before;
-    read(path, base::read_file(path), before, data::BadLine::ends_reading);
-    const auto differences = compare(before, now);
+    read(path, base::read_file(path), before, data::BadLine::ends_reading, session.language);
+    const auto differences = compare(before, session.provinces);
     for (const auto& difference : differences)
         print(base::to_qstring(printed_line(difference)));
     return !differences.empty();
@@ -140,7 +132,8 @@ int obey(const CommandLine& line, Session& session) {
     // The check tells of lines that cannot be taken; a save would lose them.
     const bool may_lose_lines = line.check && !line.save;
     read(*line.csv, bytes, session.provinces,
-         may_lose_lines ? data::BadLine::is_passed_over : data::BadLine::ends_reading);
+         may_lose_lines ? data::BadLine::is_passed_over : data::BadLine::ends_reading,
+         session.language);
     if (line.select)
         session.selection.apply(*line.select);
     for (const auto& assignment : line.assignments)
@@ -152,9 +145,9 @@ int obey(const CommandLine& line, Session& session) {
     if (line.check)
         found = print_problems(session, line, bytes);
     if (line.diff)
-        found = print_differences(session.provinces, *line.diff) || found;
+        found = print_differences(session, *line.diff) || found;
     if (!std::cout.flush())
-        throw std::runtime_error(output_failed);
+        throw std::runtime_error(session.language.text(Text::batch_output_failed));
     return found ? something_found : nothing_found;
 }
 
@@ -164,7 +157,7 @@ int batch_run(const CommandLine& line, Session& session) {
     try {
         return obey(line, session);
     } catch (const std::exception& error) {
-        tell(error.what());
+        tell(session.language.text(error));
         return file_failed;
     }
 }

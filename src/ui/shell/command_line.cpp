@@ -84,8 +84,8 @@ class Arguments {
 void read_offset(const QString& text, map::Maps& maps) {
     const auto comma = text.indexOf(QLatin1Char(','));
     maps.x_offset = data::leading_number(base::to_bytes(text.left(comma)));
-    maps.y_offset =
-        data::to_int16(data::leading_number(base::to_bytes(text.mid(comma + 1))), "--offset");
+    maps.y_offset = data::to_int16(data::leading_number(base::to_bytes(text.mid(comma + 1))),
+                                   std::string("--offset"));
 }
 
 /// Reads the values of --set. Throws std::invalid_argument with what is wrong.
@@ -127,7 +127,7 @@ QString read_unattended(const Arguments& given, CommandLine& line) {
         if (line.select && (given.has(set) || !line.needs_window()))
             check_selection(*line.select);
     } catch (const data::RunTimeError& error) {
-        return base::to_qstring(error.place());
+        return base::to_qstring(error.place().in_english());
     } catch (const std::invalid_argument& error) {
         return base::to_qstring(error.what());
     }
@@ -179,7 +179,7 @@ std::variant<CommandLine, PrintAndEnd> read_command_line(const QStringList& argu
         if (given.has(offset))
             read_offset(given.value(offset), maps);
     } catch (const data::RunTimeError& error) {
-        return given.wrong_use(base::to_qstring(error.place()));
+        return given.wrong_use(base::to_qstring(error.place().in_english()));
     }
     return line;
 }

@@ -1,6 +1,6 @@
 #include "shell/copy_timer.h"
 
-#include "base/qt_text.h"
+#include "base/shown_text.h"
 
 #include <exception>
 #include <utility>
@@ -13,7 +13,8 @@ constexpr int delay = 1500; // milliseconds from a change to its copy
 
 }
 
-CopyTimer::CopyTimer(RecoveryCopies& copies) : copies_(copies) {
+CopyTimer::CopyTimer(RecoveryCopies& copies, const Session& session)
+    : copies_(copies), session_(session) {
     timer_.setSingleShot(true);
     timer_.setInterval(delay);
     connect(&timer_, &QTimer::timeout, this, &CopyTimer::write);
@@ -29,7 +30,8 @@ void CopyTimer::write() {
         copies_.update();
         last_reason_.clear();
     } catch (const std::exception& error) {
-        const QString reason = base::to_qstring(error.what());
+        const QString reason = base::message_text(
+            session_.language.text(Text::recovery_copy_failed, {session_.language.text(error)}));
         if (std::exchange(last_reason_, reason) != reason)
             emit failed(reason);
     }

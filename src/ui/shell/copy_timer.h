@@ -12,8 +12,8 @@ class CopyTimer : public QObject {
     Q_OBJECT
 
   public:
-    /// The copies must outlive the timer.
-    explicit CopyTimer(RecoveryCopies& copies);
+    /// The copies and the session must outlive the timer.
+    CopyTimer(RecoveryCopies& copies, const Session& session);
 
     /// To be called after every event, which may have changed something: that no change is missed
     /// depends on nobody's telling of it.
@@ -27,6 +27,7 @@ class CopyTimer : public QObject {
     void write();
 
     RecoveryCopies& copies_;
+    const Session& session_;
     QTimer timer_;
     QString last_reason_;
 };

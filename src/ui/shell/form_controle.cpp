@@ -48,8 +48,8 @@ void Form_controle::refresh() {
     show_rows(std::move(rows),
               base::to_qstring(problems_.empty()
                                    ? language.text(Text::controle_none)
-                                   : filled(language.text(Text::controle_count),
-                                            {std::to_string(faults), std::to_string(hints)})));
+                                   : language.text(Text::controle_count, {std::to_string(faults),
+                                                                          std::to_string(hints)})));
 }
 
 } // namespace shell

@@ -94,7 +94,7 @@ void Form_copies::delete_chosen() {
     for (const std::size_t row : chosen()) {
         const std::string& path = paths_.at(row);
         const std::string question =
-            filled(session().language.text(Text::copies_delete_question), {base::shown_path(path)});
+            session().language.text(Text::copies_delete_question, {base::shown_path(path)});
         if (base::ask(session(), this, question, base::DefaultAnswer::no))
             QFile::remove(base::native_path(path));
     }

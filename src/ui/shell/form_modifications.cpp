@@ -49,9 +49,10 @@ void Form_modifications::refresh() {
                         base::to_qstring(provinces.cell(change.province, change.column))});
     const auto& language = table_owner_.language;
     show_rows(std::move(rows),
-              base::to_qstring(changes_.empty() ? language.text(Text::modifications_none)
-                                                : filled(language.text(Text::modifications_count),
-                                                         {std::to_string(changes_.size())})));
+              base::to_qstring(changes_.empty()
+                                   ? language.text(Text::modifications_none)
+                                   : language.text(Text::modifications_count,
+                                                   {std::to_string(changes_.size())})));
 }
 
 void Form_modifications::put_back() {

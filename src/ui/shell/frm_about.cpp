@@ -1,6 +1,6 @@
 #include "shell/frm_about.h"
 
-#include "base/shown_text.h"
+#include "base/captions.h"
 #include "shell/session.h"
 
 #include <QApplication>
@@ -41,12 +41,13 @@ frmAbout::frmAbout(const Session& session, QWidget* owner) : QDialog(owner) {
     font.setBold(true);
     title_label->setFont(font);
     add_label(column, "lblVersion",
-              QStringLiteral("Version ") + QCoreApplication::applicationVersion());
+              base::own_text(session.language, Text::about_version,
+                             QCoreApplication::applicationVersion()));
     column->addSpacing(margin / 2);
-    add_label(column, "Label1", QStringLiteral("The Province Editor developers"));
+    add_label(column, "Label1", base::own_text(session.language, Text::about_credit));
     column->addSpacing(margin);
 
-    auto* close = new QPushButton(QStringLiteral("OK"));
+    auto* close = new QPushButton(base::own_text(session.language, Text::about_ok));
     close->setObjectName(QStringLiteral("cmdOK"));
     close->setDefault(true);
     column->addWidget(close, 0, Qt::AlignHCenter);

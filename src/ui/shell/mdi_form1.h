@@ -133,7 +133,7 @@ class MDIForm1 : public QMainWindow {
     void apply_selection(const std::optional<data::RunTimeError>& known_error = {});
     /// Takes the present selection into the history; a text that names it all shows it there.
     void remember_selection(const std::string& text);
-    void select_clicked(int identifier, bool add, const std::string& place);
+    void select_clicked(int identifier, bool add, const data::Phrase& place);
     void show_status_text(int number);
     void check_mode();
     void check_map(map::ShownMap shown);

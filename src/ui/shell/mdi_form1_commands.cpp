@@ -8,7 +8,6 @@
 #include "gfx/form2.h"
 #include "gfx/form3.h"
 #include "map/identification.h"
-#include "shell/error_text.h"
 #include "shell/frm_about.h"
 #include "shell/mdi_form1.h"
 
@@ -79,6 +78,8 @@ void MDIForm1::quitter() {
 void MDIForm1::enter_mode(map::Mode mode) {
     session_.mode = mode;
     check_mode();
+    if (mode != map::Mode::normal)
+        panel_->forget_shown(); // to be hidden with the focus is not to be left
     panel_->setVisible(mode == map::Mode::normal);
     if (auto* map = map_window())
         map->selection_or_mode_changed();
@@ -153,7 +154,7 @@ void MDIForm1::choose_language(int item) {
     } catch (const data::RunTimeError& error) {
         base::show_message(
             session_, this,
-            session_.language.text(Text::language_refused, {text_of(error, session_.language)}));
+            session_.language.text(Text::language_refused, {session_.language.text(error)}));
         return;
     }
     session_.configuration.language_file = base::to_bytes(file);
@@ -175,7 +176,7 @@ void MDIForm1::assign(const std::vector<Assignment>& assignments) {
     table_changed();
 }
 
-void MDIForm1::select_clicked(int identifier, bool add, const std::string& place) {
+void MDIForm1::select_clicked(int identifier, bool add, const data::Phrase& place) {
     const std::string present = add ? panel_->selection_text() : std::string();
     panel_->set_selection_text(editor::with_province(present, identifier));
     if (identifier > data::last_province)

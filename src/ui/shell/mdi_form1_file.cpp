@@ -7,7 +7,6 @@
 #include "editor/panneau.h"
 #include "gfx/form4.h"
 #include "shell/backups.h"
-#include "shell/error_text.h"
 #include "shell/file_check.h"
 #include "shell/form_copies.h"
 #include "shell/mdi_form1.h"
@@ -90,7 +89,8 @@ void MDIForm1::save_to(const std::string& path) {
     try {
         back_up(session_, path);
     } catch (const data::RunTimeError& error) {
-        notice = session_.language.text(Text::notice_backup_failed, {error.what()});
+        notice =
+            session_.language.text(Text::notice_backup_failed, {session_.language.text(error)});
     }
     base::replace_file(path, data::write_provinces(session_.provinces));
     session_.provinces.mark_saved();
@@ -107,9 +107,9 @@ bool MDIForm1::keep_unsaved() {
         copies_.keep_another();
         return true;
     } catch (const data::RunTimeError& error) {
-        base::show_message(session_, this,
-                           session_.language.text(Text::recovery_copy_failed,
-                                                  {text_of(error, session_.language)}));
+        base::show_message(
+            session_, this,
+            session_.language.text(Text::recovery_copy_failed, {session_.language.text(error)}));
         return false;
     }
 }

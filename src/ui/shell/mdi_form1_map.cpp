@@ -92,7 +92,8 @@ void MDIForm1::show_pointed(int province, const QPointF& position) {
     QString coordinates;
     try {
         const auto x = map::stored_x(session_.maps, position.x());
-        const auto y = map::stored_y(session_.maps, data::to_int16(position.y(), {}));
+        const auto y =
+            map::stored_y(session_.maps, data::to_int16(position.y(), Text::place_press_y));
         coordinates = QStringLiteral("(%1, %2)").arg(base::to_qstring(x), base::to_qstring(y));
     } catch (const data::RunTimeError&) {
         // A click there would store nothing.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/texts.h"
+#include "shell/language.h"
 
 #include <optional>
 #include <span>

@@ -1,5 +1,6 @@
 #include "shell/own_folder.h"
 
+#include "base/files.h"
 #include "base/stored_path.h"
 #include "data/run_time_error.h"
 
@@ -33,12 +34,14 @@ std::string own_folder() {
     if (!QFileInfo(folder).isDir()) {
         if (folder.isEmpty() || !QDir().mkpath(folder))
             throw data::RunTimeError(data::ErrorNumber::path_file_access,
-                                     path + ": the folder cannot be made");
+                                     data::Phrase(data::Text::reason_folder_not_made))
+                .within(base::shown_path(path));
         QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
     if (!is_the_users_alone(folder))
         throw data::RunTimeError(data::ErrorNumber::permission_denied,
-                                 path + ": others can write into this folder");
+                                 data::Phrase(data::Text::reason_folder_not_own))
+            .within(base::shown_path(path));
     return path;
 }
 

@@ -112,8 +112,11 @@ void RecoveryCopies::update() {
 
 void RecoveryCopies::write_own(const std::string& bytes) {
     if (!own_.empty()) {
+        if (bytes == own_bytes_)
+            return; // a text that was typed is entered now
         try {
             base::replace_file(own_, bytes, base::Written::by_system);
+            own_bytes_ = bytes;
             return;
         } catch (const data::RunTimeError&) {
             // Its folder is gone or full. Another one may have room.
@@ -123,6 +126,7 @@ void RecoveryCopies::write_own(const std::string& bytes) {
     std::string path = write_new_copy(session_, bytes, &lock);
     remove_own();
     own_ = std::move(path);
+    own_bytes_ = bytes;
     lock_ = std::move(lock);
 }
 
@@ -140,6 +144,7 @@ void RecoveryCopies::remove_own() {
 
 void RecoveryCopies::let_go() {
     own_.clear();
+    own_bytes_.clear();
     lock_.reset();
     written_ = {};
 }

@@ -62,6 +62,7 @@ class RecoveryCopies {
     const Session& session_;
     TypedTexts typed_texts_;
     std::string own_;
+    std::string own_bytes_;
     std::unique_ptr<QLockFile> lock_; // tells other programs that the run of the own copy goes on
     State written_;
 };

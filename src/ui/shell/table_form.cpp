@@ -22,7 +22,8 @@ namespace {
 
 constexpr QSize initial_size(760, 420);
 constexpr int row_margin = 6;      // pixels above and below a row's text, together
-constexpr int widest_column = 320; // pixels, when the rows are shown first
+constexpr int widest_column = 480; // pixels, when the rows are shown first
+constexpr int around_columns = 50; // pixels, for scroll bar and margins
 
 QString text(const Session& session, Text text) {
     return base::to_qstring(session.language.text(text));
@@ -123,8 +124,14 @@ void TableForm::show_rows(std::vector<Row> rows, const QString& count) {
         return;
     has_widths_ = true;
     list_->resizeColumnsToContents();
-    for (int column = 0; column < model_->columnCount(); ++column)
-        list_->setColumnWidth(column, std::min(list_->columnWidth(column), widest_column));
+    const QHeaderView& header = *list_->horizontalHeader();
+    int needed = around_columns;
+    for (int column = 0; column < model_->columnCount(); ++column) {
+        const int wanted = std::max(list_->columnWidth(column), header.sectionSizeHint(column));
+        list_->setColumnWidth(column, std::min(wanted, widest_column));
+        needed += std::min(wanted, widest_column);
+    }
+    resize(std::max(width(), needed), height());
 }
 
 std::vector<std::size_t> TableForm::chosen() const {

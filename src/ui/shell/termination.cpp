@@ -4,7 +4,10 @@
 
 #ifdef Q_OS_UNIX
 
+#include <QCoreApplication>
+#include <QSemaphore>
 #include <QSocketNotifier>
+#include <QThread>
 
 #include <array>
 #include <cerrno>
@@ -35,6 +38,28 @@ extern "C" void forward_signal(int number) {
     errno = error_before;
 }
 
+QtMessageHandler handler_before = nullptr;
+
+/// When its Wayland compositor is gone, Qt says so and leaves without calling any exit handler.
+/// What it says is the last moment to act; another thread may say it.
+void listen(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    handler_before(type, context, message);
+    const auto* application = QCoreApplication::instance();
+    if (!message.startsWith(QLatin1String("The Wayland connection")) || !at_exit() || !application)
+        return;
+    if (application->thread() == QThread::currentThread()) {
+        at_exit()();
+        return;
+    }
+    constexpr int most_milliseconds = 5000; // the other thread may wait for this one
+    static QSemaphore done;
+    QMetaObject::invokeMethod(QCoreApplication::instance(), [] {
+        at_exit()();
+        done.release();
+    });
+    done.tryAcquire(1, most_milliseconds);
+}
+
 } // namespace
 
 Termination::Termination(std::function<void(int)> requested, std::function<void()> dropped) {
@@ -43,6 +68,7 @@ Termination::Termination(std::function<void(int)> requested, std::function<void(
         if (at_exit())
             at_exit()();
     });
+    handler_before = qInstallMessageHandler(listen);
     int ends[2] = {-1, -1};
     if (::pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0)
         return;
@@ -67,11 +93,13 @@ Termination::Termination(std::function<void(int)> requested, std::function<void(
 Termination::~Termination() {
     for (const int number : taken_)
         std::signal(number, SIG_DFL); // nobody reads the pipe any more
+    qInstallMessageHandler(handler_before);
     at_exit() = nullptr;
 }
 
-void ignore_closed_pipes() {
-    std::signal(SIGPIPE, SIG_IGN);
+void ignore_failing_writes() {
+    for (const int number : {SIGPIPE, SIGXFSZ})
+        std::signal(number, SIG_IGN);
 }
 
 } // namespace shell
@@ -81,7 +109,7 @@ void ignore_closed_pipes() {
 namespace shell {
 Termination::Termination(std::function<void(int)>, std::function<void()>) {}
 Termination::~Termination() = default;
-void ignore_closed_pipes() {}
+void ignore_failing_writes() {}
 } // namespace shell
 
 #endif

@@ -22,7 +22,8 @@ class Termination : public QObject {
     std::vector<int> taken_; // signals
 };
 
-/// Lets a write to a pipe that nobody reads any more fail instead of ending the program.
-void ignore_closed_pipes();
+/// Lets a write to a pipe that nobody reads any more, or beyond the size that a file may have, fail
+/// instead of ending the program.
+void ignore_failing_writes();
 
 } // namespace shell

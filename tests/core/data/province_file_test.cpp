@@ -134,7 +134,7 @@ TEST(ProvinceFile, TooFewFieldsAreAnErrorWithItsPlace) {
             FAIL() << each.line;
         } catch (const data::RunTimeError& error) {
             EXPECT_EQ(error.number(), data::ErrorNumber::invalid_procedure_call);
-            EXPECT_TRUE(error.place().starts_with(each.place)) << error.place();
+            EXPECT_TRUE(error.place().in_english().starts_with(each.place)) << error.what();
         }
         EXPECT_EQ(table.cell(5, data::TableColumn{54}), "c56");
     }

@@ -38,7 +38,7 @@ TEST(Records, AByteOrderMarkIsPassedOverAndUtf16Refused) {
             fields_of(bytes);
             FAIL() << bytes;
         } catch (const data::RunTimeError& error) {
-            EXPECT_NE(error.place().find("UTF-16"), std::string::npos) << error.place();
+            EXPECT_NE(error.place().in_english().find("UTF-16"), std::string::npos) << error.what();
         }
     }
     EXPECT_EQ(fields_of("\0\0\0"sv).size(), 1U) << "a file that lost its bytes is something else";
@@ -59,10 +59,11 @@ TEST(Records, ErrorsNameTheLine) {
             FAIL() << each.bytes;
         } catch (const data::RunTimeError& error) {
             EXPECT_EQ(static_cast<int>(error.number()), each.number);
-            EXPECT_TRUE(error.place().starts_with(each.place)) << error.place();
+            EXPECT_TRUE(error.place().in_english().starts_with(each.place)) << error.what();
         }
     }
-    const data::RunTimeError error(data::ErrorNumber::overflow, std::string("a\0b", 3));
+    const data::RunTimeError error(data::ErrorNumber::overflow,
+                                   data::Phrase(std::string("a\0b", 3)));
     EXPECT_TRUE(std::string(error.what()).ends_with("\na\\0b")) << "a NUL does not end the words";
     data::RecordReader reader("a\r\n");
     reader.next();

@@ -131,7 +131,7 @@ TEST(SpriteTables, FaultsNameTheirLineAndKeepWhatWasRead) {
             ADD_FAILURE() << fault.bytes;
         } catch (const data::RunTimeError& error) {
             EXPECT_EQ(error.number(), fault.number) << fault.bytes;
-            EXPECT_TRUE(error.place().starts_with(fault.place)) << error.place();
+            EXPECT_TRUE(error.place().in_english().starts_with(fault.place)) << error.what();
         }
         EXPECT_EQ(dump(tables.of(SpriteKind::ville)), fault.rows) << fault.bytes;
     }
@@ -147,7 +147,8 @@ TEST(SpriteTables, SixSpritesForFourRows) {
         ADD_FAILURE();
     } catch (const data::RunTimeError& error) {
         EXPECT_EQ(error.number(), ErrorNumber::subscript_out_of_range);
-        EXPECT_EQ(error.place(), "line 13: sprite 5 of its kind, at most 4 were expected");
+        EXPECT_EQ(error.place().in_english(),
+                  "line 13: sprite 5 of its kind, at most 4 were expected");
     }
     EXPECT_EQ(dump(tables.of(SpriteKind::manuf)),
               "4: \\bmp\\0|s|1,1|1 \\bmp\\1|s|1,1|1 \\bmp\\2|s|1,1|1 \\bmp\\3|s|1,1|1");

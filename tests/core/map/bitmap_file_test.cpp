@@ -64,7 +64,7 @@ TEST(BitmapFile, RunLengthsReachTheLastRow) {
         try {
             map::check_run_lengths(bytes);
         } catch (const data::RunTimeError& error) {
-            problem = error.place();
+            problem = error.place().in_english();
         }
         EXPECT_EQ(problem.empty(), *row.ends_in == 0) << problem;
         EXPECT_NE(problem.find(row.ends_in), std::string::npos) << problem;

@@ -163,7 +163,8 @@ TEST(PositionEntry, WritesNothingWhenItFails) {
             ADD_FAILURE() << row.place;
         } catch (const data::RunTimeError& error) {
             EXPECT_EQ(error.number(), row.number);
-            EXPECT_NE(error.place().find(row.place), std::string::npos) << error.place();
+            EXPECT_NE(error.place().in_english().find(row.place), std::string::npos)
+                << error.what();
         }
         EXPECT_FALSE(world.provinces.has_unsaved_changes());
     }

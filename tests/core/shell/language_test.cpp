@@ -1,5 +1,4 @@
 #include "data/run_time_error.h"
-#include "shell/error_text.h"
 #include "shell/language.h"
 
 #include <gtest/gtest.h>
@@ -33,7 +32,8 @@ TEST(LanguageTexts, FurtherTextsAreEnglishWhereTheFileLacksThem) {
     using shell::Text;
     const LanguageTexts texts(
         "\"texte_ETAT_selected\",\"%2 et %1 %\"\r\n\"TEXTE_x\",\"unknown\"\r\n"
-        "\"TEXTE_error_disk_full\",\"Plein\"\r\n\"TERRAIN_0\",\"Plains\"\r\n");
+        "\"TEXTE_error_disk_full\",\"Plein\"\r\n\"TERRAIN_0\",\"Plains\"\r\n"
+        "\"TEXTE_place_line\",\"ligne %1\"\r\n\"TEXTE_place_reason\",\"%1 : %2\"\r\n");
     EXPECT_EQ(texts.list("TERRAIN_").size(), 1U);
     EXPECT_EQ(texts.text(Text::etat_selected), "%2 et %1 %");
     EXPECT_EQ(texts.text(Text::etat_selected, {"%2", "b"}), "b et %2 %");
@@ -41,11 +41,16 @@ TEST(LanguageTexts, FurtherTextsAreEnglishWhereTheFileLacksThem) {
     EXPECT_EQ(LanguageTexts().text(Text::locale), "en");
 
     for (int number = 0; number <= 76; ++number) {
-        const data::RunTimeError error(static_cast<data::ErrorNumber>(number), "here");
-        EXPECT_EQ(text_of(error, LanguageTexts()), error.what()) << "the words are the same";
+        const data::RunTimeError error(static_cast<data::ErrorNumber>(number),
+                                       data::Phrase(std::string("here")));
+        EXPECT_EQ(LanguageTexts().text(error), error.what()) << "the words are the same";
     }
-    const data::RunTimeError full(data::ErrorNumber::disk_full, "");
-    EXPECT_EQ(text_of(full, texts), "Run-time error 61: Plein");
+    const auto full =
+        data::RunTimeError(data::ErrorNumber::disk_full, data::Phrase(Text::reason_no_file))
+            .within(Text::place_selection)
+            .within(data::Phrase(Text::place_line, 3));
+    EXPECT_EQ(texts.text(full),
+              "Run-time error 61: Plein\nligne 3, selection : there is no such file");
 }
 
 TEST(LanguageTexts, AListHoldsItsCapacityAndNoMore) {
@@ -63,7 +68,7 @@ TEST(LanguageTexts, AListHoldsItsCapacityAndNoMore) {
         } catch (const data::RunTimeError& error) {
             EXPECT_EQ(error.number(), data::ErrorNumber::subscript_out_of_range);
             const std::string line = "line " + std::to_string(list.capacity + 1) + ":";
-            EXPECT_NE(error.place().find(line), std::string::npos) << error.place();
+            EXPECT_NE(error.place().in_english().find(line), std::string::npos) << error.what();
         }
     }
 }

@@ -34,7 +34,7 @@ class FilesTest : public testing::Test {
             ADD_FAILURE() << "no error for " << name;
         } catch (const data::RunTimeError& error) {
             EXPECT_EQ(error.number(), number) << error.what();
-            EXPECT_NE(error.place().find(name), std::string::npos) << error.place();
+            EXPECT_NE(error.place().in_english().find(name), std::string::npos) << error.what();
         }
     }
 

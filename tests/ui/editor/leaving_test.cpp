@@ -108,6 +108,14 @@ TEST_F(Panel, EnterThatIsHeldWritesOnce) {
     EXPECT_EQ(cells(1), "a|b");
     QTest::keyClick(&control<QWidget>("nom_province"), Qt::Key_Return);
     EXPECT_EQ(cells(1), "c|c");
+
+    boxes.before_answer = [&held](QMessageBox& box) {
+        QApplication::sendEvent(box.defaultButton(), &held);
+        EXPECT_TRUE(box.isVisible());
+    };
+    type("férocité", QStringLiteral("9"));
+    QTest::keyClick(&control<QWidget>("férocité"), Qt::Key_Return);
+    EXPECT_EQ(boxes.take().size(), 1U) << "the key that opened the box does not close it";
 }
 
 TEST_F(Panel, TypedTextsAreWhatLeavingWouldStore) {
@@ -144,10 +152,16 @@ TEST_F(Panel, TheFocusComesBackToARefusedNumber) {
     const struct {
         const char* to; // what takes the focus, "" for the next field
         bool comes_back;
-    } rows[] = {{"", true}, {"TabStrip1", true}, {"tol(1)", true}, {"Command2", false}};
+    } rows[] = {{"", true},
+                {"efficacité", true},
+                {"TabStrip1", true},
+                {"tol(1)", true},
+                {"Command2", false}};
+    // Some desktops activate the frame before the focus is sent back, others later.
+    boxes.before_answer = [this](QMessageBox&) { QApplication::setActiveWindow(frame.get()); };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.to);
-        select_with(23, "1", "2");
+        select_with(25, "1", "2");
         select_with(24, "4", "4");
         type("férocité", QStringLiteral("9"));
         if (*row.to == '\0')
@@ -163,7 +177,7 @@ TEST_F(Panel, TheFocusComesBackToARefusedNumber) {
         QTest::keyClick(&field, Qt::Key_Return);
         QTest::keyClick(&field, Qt::Key_Tab);
         EXPECT_EQ(cells(24), "4|4") << "nothing was typed since";
-        EXPECT_EQ(cells(23), "1|2") << "nobody left that field";
+        EXPECT_EQ(cells(25), "1|2") << "nobody left that field";
     }
     EXPECT_TRUE(boxes.take().empty());
 }

@@ -166,7 +166,7 @@ TEST_F(Form4Test, PathWithoutDriveOrFolderIsAnError) {
             ADD_FAILURE() << path;
         } catch (const data::RunTimeError& error) {
             EXPECT_EQ(error.number(), data::ErrorNumber::path_not_found);
-            EXPECT_NE(error.place().find(place), std::string::npos) << error.place();
+            EXPECT_NE(error.place().in_english().find(place), std::string::npos) << error.what();
         }
         EXPECT_FALSE(form.isVisible());
     }

@@ -45,14 +45,15 @@ TEST_F(LoadGfxFichier, KeepsTheFileAndTheFolderAsItStands) {
 TEST_F(LoadGfxFichier, MissingFileLeavesTheListAlone) {
     const auto error = error_of(folder.path("none.spr"));
     EXPECT_EQ(error.number(), ErrorNumber::file_not_found);
-    EXPECT_NE(error.place().find("none.spr"), std::string::npos);
+    EXPECT_NE(error.place().in_english().find("none.spr"), std::string::npos);
     EXPECT_EQ(session.graphics.files.count(), 0);
 }
 
 TEST_F(LoadGfxFichier, ErrorsNameTheFile) {
     const auto error = error_of(descriptor("frames=1\r\nBitmap=a.bmp"));
     EXPECT_EQ(error.number(), ErrorNumber::invalid_procedure_call);
-    EXPECT_NE(error.place().find("a.spr, line 2: "), std::string::npos) << error.place();
+    EXPECT_NE(error.place().in_english().find("a.spr, line 2: "), std::string::npos)
+        << error.what();
     EXPECT_EQ(session.graphics.files.count(), 1); // the record is there, the sprite unfinished
 
     const std::string empty = descriptor("");
@@ -60,7 +61,8 @@ TEST_F(LoadGfxFichier, ErrorsNameTheFile) {
         gfx::load_gfx_fichier(session, "ville", empty, "set");
     const auto full = error_of(empty);
     EXPECT_EQ(full.number(), ErrorNumber::subscript_out_of_range);
-    EXPECT_NE(full.place().find("a.spr, record 26 "), std::string::npos) << full.place();
+    EXPECT_NE(full.place().in_english().find("a.spr, record 26: "), std::string::npos)
+        << full.what();
 }
 
 } // namespace

@@ -24,7 +24,7 @@ std::string problem_of(const std::string& path) {
         const map::MapImage image(path);
     } catch (const data::RunTimeError& error) {
         EXPECT_EQ(error.number(), data::ErrorNumber::path_file_access);
-        return error.place();
+        return error.place().in_english();
     }
     return "none";
 }
@@ -50,7 +50,7 @@ std::string png_header(std::uint32_t width, std::uint32_t height) {
 TEST(DecodeImage, ImageThatMemoryCannotHoldIsAnError) {
     const support::Folder folder;
     const std::string problem = problem_of(folder.write("huge.png", png_header(60000, 60000)));
-    EXPECT_NE(problem.find("huge.png, an image of 60000 x 60000 pixels takes 13732 MB"),
+    EXPECT_NE(problem.find("huge.png: an image of 60000 x 60000 pixels takes 13732 MB"),
               std::string::npos)
         << problem;
     EXPECT_NE(problem_of(folder.write("cut.png", png_header(60, 60))).find("image was expected"),
@@ -111,7 +111,7 @@ TEST(DecodeImage, RunLengthBitmapThatIsCutShortIsAnError) {
     EXPECT_EQ(QImage::fromData(QByteArray::fromStdString(bytes)).pixel(0, 2) & 0xFFFFFF, bottom);
     bytes.resize(bytes.size() - 1);
     const std::string problem = problem_of(folder.write("map.bmp", bytes));
-    EXPECT_NE(problem.find("map.bmp, the run-length pixels end in row 3"), std::string::npos)
+    EXPECT_NE(problem.find("map.bmp: the run-length pixels end in row 3"), std::string::npos)
         << problem;
 }
 

@@ -44,7 +44,7 @@ TEST_F(MapInFrame, IdentifierAboveTheLastProvinceIsSelectedLikeATypedOne) {
     EXPECT_EQ(session.selection.provinces().size(), 1U);
     EXPECT_EQ(boxes.take_one(),
               "run_time_error: Run-time error 9: Subscript out of range\nID map, point (155, 55), "
-              "colour #506070, province 3000, an identifier up to 2018 was expected");
+              "colour #506070, province 3000: an identifier up to 2018 was expected");
     click_map({155, 55});
     EXPECT_EQ(selection_text(), "3000");
     EXPECT_TRUE(session.selection.provinces().empty());

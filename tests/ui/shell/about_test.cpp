@@ -7,18 +7,22 @@
 namespace {
 
 TEST(AboutBox, NamesTitleAndVersion) {
-    const std::pair<const char*, const char*> captions[] = {
-        {"", " Province Editor"},
-        {"\"MENU_About\",\"x\"", " Province Editor"},
-        {"\"MENU_about\",\"x\"\r\n\"MENU_about\",\"About\"", "About Province Editor"}};
-    for (const auto& [language, caption] : captions) {
+    const struct {
+        const char* language;
+        const char* caption;
+        const char* version = "Version 0.9.12";
+    } rows[] = {{"", " Province Editor"},
+                {"\"MENU_About\",\"x\"", " Province Editor"},
+                {"\"MENU_about\",\"x\"\r\n\"MENU_about\",\"About\"", "About Province Editor"},
+                {"\"TEXTE_about_version\",\"%1!\"", " Province Editor", "0.9.12!"}};
+    for (const auto& row : rows) {
         shell::Session session;
-        session.language = shell::LanguageTexts(language);
+        session.language = shell::LanguageTexts(row.language);
         shell::frmAbout about(session, nullptr);
-        EXPECT_TRUE(driver::run(about, [&, expected = caption] {
-            EXPECT_EQ(about.windowTitle(), expected);
+        EXPECT_TRUE(driver::run(about, [&] {
+            EXPECT_EQ(about.windowTitle(), row.caption);
             EXPECT_EQ(driver::control<QLabel>(about, "lblTitle").text(), "Province Editor");
-            EXPECT_EQ(driver::control<QLabel>(about, "lblVersion").text(), "Version 0.9.12");
+            EXPECT_EQ(driver::control<QLabel>(about, "lblVersion").text(), row.version);
             EXPECT_FALSE(driver::control<QLabel>(about, "Label1").text().isEmpty());
             driver::press(about, "cmdOK");
         }));

@@ -81,12 +81,12 @@ TEST(LanguageFiles, AreComplete) {
             EXPECT_FALSE(texts.status(status).empty()) << name << status;
         std::multiset<std::string> keys;
         for (const auto& key : keys_of(bytes)) {
-            if (key.starts_with(shell::text_prefix))
+            if (key.starts_with(data::text_prefix))
                 keys.insert(key);
         }
         std::multiset<std::string> expected_keys;
-        for (const auto& row : shell::texts)
-            expected_keys.insert(std::string(shell::text_prefix).append(row.key));
+        for (const auto& row : data::texts)
+            expected_keys.insert(std::string(data::text_prefix).append(row.key));
         EXPECT_EQ(keys, expected_keys) << name;
         for (std::size_t at = bytes.find('\n'); at < bytes.size(); at = bytes.find('\n', at + 1))
             ASSERT_EQ(bytes[at - 1], '\r') << name;
@@ -97,9 +97,9 @@ TEST(LanguageFiles, FurtherTextsAreTheProgramsOwnAndKeepTheirPlaceholders) {
     const shell::LanguageTexts english(bytes_of("english.lng"));
     const shell::LanguageTexts french(bytes_of("french.lng"));
     EXPECT_EQ(french.text(shell::Text::locale), "fr");
-    for (const auto& row : shell::texts) {
+    for (const auto& row : data::texts) {
         EXPECT_EQ(english.text(row.text), row.english);
-        for (const char* mark : {"%1", "%2"})
+        for (const char* mark : {"%1", "%2", "%3", "%4", "%5"})
             EXPECT_EQ(french.text(row.text).find(mark) == std::string::npos,
                       row.english.find(mark) == std::string_view::npos)
                 << row.key;

@@ -240,4 +240,19 @@ TEST_F(MapCommands, ModesShowAndEnterTheirPositions) {
     EXPECT_TRUE(action("normal").isChecked()) << "chosen again, it stays";
 }
 
+TEST_F(MapCommands, AModeThatHidesThePanelLeavesNoField) {
+    start_again();
+    open_maps();
+    load(5, 1, "a");
+    load(6, 1, "b");
+    select("5;6");
+    click("nom_province");
+    press_key(Qt::Key_F3);
+    EXPECT_EQ(cell(5, 1) + cell(6, 1), "ab");
+    press_key(Qt::Key_F2);
+    type("nom_province", "c");
+    press_key(Qt::Key_F4);
+    EXPECT_EQ(cell(5, 1) + cell(6, 1), "cc") << "what was typed is written before";
+}
+
 } // namespace

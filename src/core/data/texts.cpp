@@ -1,37 +1,110 @@
-#include "shell/texts.h"
+#include "data/texts.h"
 
-#include "data/run_time_error.h"
+namespace data {
 
-namespace shell {
-
-constexpr data::IndexedArray<Text, TextInfo, text_count> texts = {{{
+constexpr IndexedArray<Text, TextInfo, text_count> texts = {{{
     // Qt's own texts
     {Text::locale, "locale", "en"},
 
     // Run-time errors
     {Text::error_heading, "error_heading", "Run-time error %1: %2"},
     {Text::error_invalid_procedure_call, "error_invalid_procedure_call",
-     data::words(data::ErrorNumber::invalid_procedure_call)},
-    {Text::error_overflow, "error_overflow", data::words(data::ErrorNumber::overflow)},
-    {Text::error_subscript_out_of_range, "error_subscript_out_of_range",
-     data::words(data::ErrorNumber::subscript_out_of_range)},
-    {Text::error_file_not_found, "error_file_not_found",
-     data::words(data::ErrorNumber::file_not_found)},
-    {Text::error_disk_full, "error_disk_full", data::words(data::ErrorNumber::disk_full)},
-    {Text::error_input_past_end, "error_input_past_end",
-     data::words(data::ErrorNumber::input_past_end)},
-    {Text::error_permission_denied, "error_permission_denied",
-     data::words(data::ErrorNumber::permission_denied)},
-    {Text::error_path_file_access, "error_path_file_access",
-     data::words(data::ErrorNumber::path_file_access)},
-    {Text::error_path_not_found, "error_path_not_found",
-     data::words(data::ErrorNumber::path_not_found)},
+     "Invalid procedure call or argument"},
+    {Text::error_overflow, "error_overflow", "Overflow"},
+    {Text::error_subscript_out_of_range, "error_subscript_out_of_range", "Subscript out of range"},
+    {Text::error_file_not_found, "error_file_not_found", "File not found"},
+    {Text::error_disk_full, "error_disk_full", "Disk full"},
+    {Text::error_input_past_end, "error_input_past_end", "Input past end of file"},
+    {Text::error_permission_denied, "error_permission_denied", "Permission denied"},
+    {Text::error_path_file_access, "error_path_file_access", "Path/File access error"},
+    {Text::error_path_not_found, "error_path_not_found", "Path not found"},
     {Text::error_unknown, "error_unknown", "Unknown error"},
     {Text::error_program_ends, "error_program_ends", "The program ends now."},
     {Text::error_nothing_unsaved, "error_nothing_unsaved", "There were no unsaved changes."},
     {Text::recovery_copy_written, "recovery_copy_written", "The unsaved changes are in %1"},
     {Text::recovery_copy_failed, "recovery_copy_failed",
      "The unsaved changes could not be written: %1"},
+    {Text::recovery_copy_older, "recovery_copy_older", "An older state of them is in %1"},
+
+    // Where they happen, and why
+    {Text::place_reason, "place_reason", "%1: %2"},
+    {Text::place_line, "place_line", "line %1"},
+    {Text::place_province, "place_province", "province %1"},
+    {Text::place_column, "place_column", "column %1 (%2)"},
+    {Text::place_record, "place_record", "record %1"},
+    {Text::place_flag, "place_flag", "flag"},
+    {Text::place_selection, "place_selection", "selection"},
+    {Text::place_id_map_point, "place_id_map_point", "ID map, point (%1, %2), colour #%3"},
+    {Text::place_press_and_offset, "place_press_and_offset", "map offset and press added"},
+    {Text::place_press_y, "place_press_y", "Y of the press on the map"},
+    {Text::place_location, "place_location", "the location %1"},
+    {Text::place_sprite_sets, "place_sprite_sets", "sprite sets of the kind %1"},
+    {Text::place_table_column, "place_table_column", "table column"},
+    {Text::place_table_row, "place_table_row", "table row"},
+    {Text::reason_not_between, "reason_not_between", "%1 is not between %2 and %3"},
+    {Text::reason_identifier, "reason_identifier", "an identifier up to %1 was expected"},
+    {Text::reason_digits, "reason_digits", "a number of at most %1 digits was expected"},
+    {Text::reason_line_ends, "reason_line_ends",
+     "the line ends here, at least %1 fields separated by ';' were expected"},
+    {Text::reason_utf_16, "reason_utf_16",
+     "the file is stored as UTF-16, Windows-1252 (ANSI) was expected"},
+    {Text::reason_record_ends, "reason_record_ends",
+     "the file ends inside a record, a further field was expected"},
+    {Text::reason_open_quote, "reason_open_quote",
+     "a text begins with a quote, a second quote was expected before the end of the line"},
+    {Text::reason_unknown_list, "reason_unknown_list", "there is no value list %1"},
+    {Text::reason_too_many_records, "reason_too_many_records",
+     "at most %1 records with the prefix %2 were expected"},
+    {Text::reason_unknown_text, "reason_unknown_text", "'%1' is none of the list's texts"},
+    {Text::reason_bitmap_name, "reason_bitmap_name",
+     "a file name in double quotes was expected after the key Bitmap"},
+    {Text::reason_too_many_sprites, "reason_too_many_sprites",
+     "sprite %1 of its kind, at most %2 were expected"},
+    {Text::reason_too_many_sets, "reason_too_many_sets",
+     "the list of sprite sets has records 1 to %1"},
+    {Text::reason_no_set_chosen, "reason_no_set_chosen",
+     "no set is selected, one to take out was expected"},
+    {Text::reason_no_drive, "reason_no_drive", "a path on a drive was expected"},
+    {Text::reason_no_file, "reason_no_file", "there is no such file"},
+    {Text::reason_not_a_file, "reason_not_a_file", "a file was expected here"},
+    {Text::reason_no_folder, "reason_no_folder", "the folder does not exist"},
+    {Text::reason_folder_not_made, "reason_folder_not_made", "the folder cannot be made"},
+    {Text::reason_folder_not_own, "reason_folder_not_own", "others can write into this folder"},
+    {Text::reason_not_whole, "reason_not_whole", "only %1 of its %2 bytes could be read (%3)"},
+    {Text::reason_picture, "reason_picture", "the picture could not be written"},
+    {Text::reason_no_image, "reason_no_image", "a bitmap or another image was expected (%1)"},
+    {Text::reason_empty_image, "reason_empty_image", "the file is empty, an image was expected"},
+    {Text::reason_image_size, "reason_image_size",
+     "a bitmap of %1 x %2 pixels, at least 1 x 1 was expected"},
+    {Text::reason_header_ends, "reason_header_ends", "the file ends inside the bitmap header"},
+    {Text::reason_header_size, "reason_header_size",
+     "a bitmap header of %1 bytes, 12 or at least 40 were expected"},
+    {Text::reason_bits, "reason_bits",
+     "a bitmap with %1 bits per pixel, 1, 4, 8, 16, 24 or 32 were expected"},
+    {Text::reason_too_few_bytes, "reason_too_few_bytes",
+     "a bitmap of %1 x %2 pixels with %3 bits each needs %4 bytes, the file has %5"},
+    {Text::reason_runs_end, "reason_runs_end",
+     "the run-length pixels end in row %1 of the file, %2 rows were expected"},
+    {Text::reason_image_memory, "reason_image_memory",
+     "the image's %1 x %2 pixels take more memory than there is"},
+    {Text::reason_image_too_large, "reason_image_too_large",
+     "an image of %1 x %2 pixels takes %3 MB of memory, at most %4 MB were expected; an "
+     "uncompressed bitmap needs none"},
+    {Text::reason_transparent, "reason_transparent",
+     "all pixels have the colour of the top left one, which is transparent; a frame with another "
+     "colour was expected"},
+    {Text::reason_other_kind, "reason_other_kind",
+     "the file is no longer an uncompressed bitmap, as it was when the maps were opened"},
+    {Text::reason_other_size, "reason_other_size",
+     "the bitmap has %1 x %2 pixels now, %3 x %4 were expected"},
+    {Text::reason_row_missing, "reason_row_missing", "the file ends before the pixels of row %1"},
+
+    // Runs without a window
+    {Text::batch_no_province, "batch_no_province", "%1: no province was found"},
+    {Text::batch_rows_lost, "batch_rows_lost",
+     "%1: rows behind a line feed alone are not read, the file has more provinces than that; "
+     "--check tells where"},
+    {Text::batch_output_failed, "batch_output_failed", "The output could not be written"},
 
     // Menus
     {Text::menu_recuperer, "menu_recuperer", "&Recovery copies and backups..."},
@@ -48,6 +121,11 @@ constexpr data::IndexedArray<Text, TextInfo, text_count> texts = {{{
     {Text::menu_modifications, "menu_modifications", "C&hanges..."},
     {Text::menu_selection_precedente, "menu_selection_precedente", "&Previous selection"},
     {Text::menu_selection_suivante, "menu_selection_suivante", "N&ext selection"},
+
+    // The about box
+    {Text::about_version, "about_version", "Version %1"},
+    {Text::about_credit, "about_credit", "The Province Editor developers"},
+    {Text::about_ok, "about_ok", "OK"},
 
     // Status bar
     {Text::etat_none_selected, "etat_none_selected", "No province selected"},
@@ -247,7 +325,7 @@ namespace {
 constexpr bool is_in_order() {
     std::size_t position = 0;
     for (const auto& row : texts) {
-        if (data::position_of(row.text) != position++ || row.key.empty())
+        if (position_of(row.text) != position++ || row.key.empty())
             return false;
     }
     return true;
@@ -256,14 +334,14 @@ static_assert(is_in_order(), "the rows stand in the order of the enumeration");
 
 } // namespace
 
-std::string filled(std::string_view pattern, std::initializer_list<std::string_view> values) {
+std::string filled(std::string_view pattern, std::span<const std::string_view> values) {
     std::string text;
     for (std::size_t at = 0; at < pattern.size(); ++at) {
         const bool marked = pattern[at] == '%' && at + 1 < pattern.size();
         const auto number =
             marked ? static_cast<std::size_t>(pattern[at + 1] - '1') : values.size();
         if (number < values.size()) {
-            text += values.begin()[number];
+            text += values[number];
             ++at;
         } else {
             text += pattern[at];
@@ -272,4 +350,4 @@ std::string filled(std::string_view pattern, std::initializer_list<std::string_v
     return text;
 }
 
-} // namespace shell
+} // namespace data

@@ -3,11 +3,11 @@
 #include "data/indexed_array.h"
 
 #include <cstddef>
-#include <initializer_list>
+#include <span>
 #include <string>
 #include <string_view>
 
-namespace shell {
+namespace data {
 
 /// Every text of a window that is no caption, message or status text of the language file's lists.
 /// A text is added here, in the table of texts.cpp, and in every file of languages/.
@@ -31,6 +31,64 @@ enum class Text {
     error_nothing_unsaved,
     recovery_copy_written,
     recovery_copy_failed,
+    recovery_copy_older,
+
+    // Where they happen, and why
+    place_reason,
+    place_line,
+    place_province,
+    place_column,
+    place_record,
+    place_flag,
+    place_selection,
+    place_id_map_point,
+    place_press_and_offset,
+    place_press_y,
+    place_location,
+    place_sprite_sets,
+    place_table_column,
+    place_table_row,
+    reason_not_between,
+    reason_identifier,
+    reason_digits,
+    reason_line_ends,
+    reason_utf_16,
+    reason_record_ends,
+    reason_open_quote,
+    reason_unknown_list,
+    reason_too_many_records,
+    reason_unknown_text,
+    reason_bitmap_name,
+    reason_too_many_sprites,
+    reason_too_many_sets,
+    reason_no_set_chosen,
+    reason_no_drive,
+    reason_no_file,
+    reason_not_a_file,
+    reason_no_folder,
+    reason_folder_not_made,
+    reason_folder_not_own,
+    reason_not_whole,
+    reason_picture,
+    reason_no_image,
+    reason_empty_image,
+    reason_image_size,
+    reason_header_ends,
+    reason_header_size,
+    reason_bits,
+    reason_too_few_bytes,
+    reason_runs_end,
+    reason_image_memory,
+    reason_image_too_large,
+    reason_transparent,
+    reason_other_kind,
+    reason_other_size,
+    reason_row_missing,
+
+    // Runs without a window
+    batch_no_province,
+    batch_rows_lost,
+    batch_output_failed,
 
     // Menus
     menu_recuperer,
@@ -47,6 +105,11 @@ enum class Text {
     menu_modifications,
     menu_selection_precedente,
     menu_selection_suivante,
+
+    // The about box
+    about_version,
+    about_credit,
+    about_ok,
 
     // Status bar
     etat_none_selected,
@@ -210,10 +273,10 @@ struct TextInfo {
 inline constexpr std::size_t text_count = static_cast<std::size_t>(Text::last) + 1;
 
 /// The texts by their enumerator.
-extern const data::IndexedArray<Text, TextInfo, text_count> texts;
+extern const IndexedArray<Text, TextInfo, text_count> texts;
 
 /// Returns the pattern with %1 to %9 replaced by the first value, the second, and so on; one that
 /// has no value stays.
-std::string filled(std::string_view pattern, std::initializer_list<std::string_view> values);
+std::string filled(std::string_view pattern, std::span<const std::string_view> values);
 
-} // namespace shell
+} // namespace data
