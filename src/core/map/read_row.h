@@ -1,0 +1,13 @@
+#pragma once
+
+#include "map/bitmap_file.h"
+
+#include <functional>
+#include <span>
+
+namespace map {
+
+/// Fills the pixels with the ID map's row y from first_x on; no_pixel where it cannot be read.
+using ReadRow = std::function<void(int y, int first_x, std::span<Pixel> pixels)>;
+
+} // namespace map
