@@ -59,7 +59,7 @@ std::vector<BorderLine> outline_of(int identifier, const Box& box, std::size_t m
     std::vector<Pixel> pixels(static_cast<std::size_t>(box.right - box.left + 1));
     Crossings above;
     for (int y = box.top; y <= box.bottom; ++y) {
-        read_row(y, box.left, pixels);
+        read_row(y, box.left, 1, pixels);
         Crossings here = crossings_of(identifier, box.left, pixels);
         add_lines_between(above, here, y, lines);
         for (const int x : here)

@@ -7,7 +7,8 @@
 
 namespace map {
 
-/// Fills the pixels with the ID map's row y from first_x on; no_pixel where it cannot be read.
-using ReadRow = std::function<void(int y, int first_x, std::span<Pixel> pixels)>;
+/// Fills the pixels with the ID map's row y at first_x, first_x + step, and so on; no_pixel where
+/// it cannot be read.
+using ReadRow = std::function<void(int y, int first_x, int step, std::span<Pixel> pixels)>;
 
 } // namespace map

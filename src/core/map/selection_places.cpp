@@ -23,15 +23,14 @@ bool has_selected(std::span<const Pixel> pixels, const editor::Selection& select
     });
 }
 
-/// Returns whether the box has a pixel of a selected province, in its rows that are multiples of
-/// the step.
-bool finds_selected(const Box& box, const editor::Selection& selection, int row_step,
+/// Returns whether the box has a pixel of a selected province, in one of `step` rows and columns.
+bool finds_selected(const Box& box, const editor::Selection& selection, int step,
                     const ReadRow& read_row) {
-    std::vector<Pixel> pixels(static_cast<std::size_t>(box.right - box.left + 1));
-    const int first_row = (box.top + row_step - 1) / row_step;
-    const int last_row = box.bottom / row_step;
+    std::vector<Pixel> pixels(static_cast<std::size_t>((box.right - box.left) / step + 1));
+    const int first_row = (box.top + step - 1) / step;
+    const int last_row = box.bottom / step;
     const auto row_has_selected = [&](int row) {
-        read_row(row * row_step, box.left, pixels);
+        read_row(row * step, box.left, step, pixels);
         return has_selected(pixels, selection);
     };
     for (int row = first_row; row <= last_row; row += first_look) {
@@ -65,7 +64,7 @@ const ProvincePlace* first_place(const ProvinceIndex& index, const editor::Selec
 }
 
 bool is_in_view(const ProvinceIndex& index, const editor::Selection& selection, const Box& view,
-                int row_step, const ReadRow& read_row) {
+                int step, const ReadRow& read_row) {
     std::optional<Box> doubtful; // where pixels of the selection may lie in the view
     for (const int province : selection.provinces()) {
         const auto* place = index.place(province);
@@ -76,7 +75,7 @@ bool is_in_view(const ProvinceIndex& index, const editor::Selection& selection, 
             return true;
         doubtful = doubtful ? united(*doubtful, *inside) : *inside;
     }
-    return doubtful && finds_selected(*doubtful, selection, row_step, read_row);
+    return doubtful && finds_selected(*doubtful, selection, step, read_row);
 }
 
 } // namespace map

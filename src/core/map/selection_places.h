@@ -16,8 +16,8 @@ std::optional<Box> box_of(const ProvinceIndex& index, const editor::Selection& s
 const ProvincePlace* first_place(const ProvinceIndex& index, const editor::Selection& selection);
 
 /// Returns whether a pixel of a selected province lies in the view. What the index cannot tell is
-/// read from the ID map, at most each row of the view that is a multiple of `row_step`.
+/// read from the ID map: of every `step` rows and columns one, as many as the view shows.
 bool is_in_view(const ProvinceIndex& index, const editor::Selection& selection, const Box& view,
-                int row_step, const ReadRow& read_row);
+                int step, const ReadRow& read_row);
 
 } // namespace map
