@@ -115,7 +115,10 @@ void Form1::follow_files() {
     follow(map_1_);
     if (map_2_)
         follow(*map_2_);
-    follow(id_map_);
+    if (follow_file(id_map_)) {
+        changed = true;
+        forget_places();
+    }
     if (changed) {
         view_->take_sizes();
         work_out_dots();

@@ -63,7 +63,7 @@ class Form1 : public QWidget {
     const ProvincePlaces& places() const { return places_; }
 
     /// Returns the index of the places, after reading what it lacks.
-    const ProvinceIndex& index();
+    const ProvinceIndex& index() { return places_.index(); }
 
     /// Moves the view to the selection when no pixel of it is in view.
     void follow_selection();
@@ -110,6 +110,7 @@ class Form1 : public QWidget {
     void work_out_dots();
     void show_foreign_point(const ForeignPoint& point);
     void add_missed_dots();
+    void forget_places();
     void draw_above(QPainter& painter, const QRegion& exposed);
     void tell(const QString& reason);
 

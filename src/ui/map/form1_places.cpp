@@ -6,9 +6,6 @@
 #include "map/zoomed_rect.h"
 #include "shell/place_check.h"
 
-#include <QGuiApplication>
-#include <QScopeGuard>
-
 #include <utility>
 
 /// What the map window does with the places of the provinces.
@@ -38,12 +35,9 @@ ReadRow rows_of(MapReader& reader) {
 
 } // namespace
 
-const ProvinceIndex& Form1::index() {
-    if (const auto* index = places_.complete_index())
-        return *index;
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor); // a cold disk takes seconds
-    const auto back = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
-    return places_.index();
+void Form1::forget_places() {
+    outline({});
+    places_.restart();
 }
 
 // --- moving to provinces

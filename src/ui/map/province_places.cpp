@@ -1,5 +1,7 @@
 #include "map/province_places.h"
 
+#include "map/wait_cursor.h"
+
 #include <QElapsedTimer>
 
 namespace map {
@@ -25,8 +27,10 @@ void ProvincePlaces::restart() {
 }
 
 const ProvinceIndex& ProvincePlaces::index() {
-    if (!is_complete())
+    if (!is_complete()) {
+        const WaitCursor wait; // a cold disk takes seconds
         read_rows(no_limit);
+    }
     return index_;
 }
 
