@@ -3,6 +3,7 @@
 #include "map/form1.h"
 #include "map/map_image.h"
 #include "map/map_view.h"
+#include "map/province_places.h"
 #include "map_colours.h"
 #include "shell/session.h"
 
@@ -71,6 +72,13 @@ std::unique_ptr<map::Form1> shown_window(shell::Session& session) {
     window->resize(view);
     window->show();
     QCoreApplication::processEvents();
+    return window;
+}
+
+/// Returns a window that has nothing more to do in the idle time.
+std::unique_ptr<map::Form1> ready_window(shell::Session& session) {
+    auto window = shown_window(session);
+    window->index();
     return window;
 }
 
@@ -160,7 +168,7 @@ void paint_a_random_place(benchmark::State& state, const char* selection, map::M
     session->selection.apply(selection);
     session->mode = mode;
     place_cities(session->provinces);
-    const auto window = shown_window(*session);
+    const auto window = ready_window(*session);
     paint_random_places(state, *window);
 }
 void all_levels(benchmark::internal::Benchmark* bench) {
@@ -213,7 +221,7 @@ BENCHMARK(recolour_after_an_edit_of_all_provinces)->Unit(unit);
 void zoom_step_to_painted(benchmark::State& state) {
     const auto session = session_with_maps();
     session->selection.apply("1-2018");
-    const auto window = shown_window(*session);
+    const auto window = ready_window(*session);
     window->view().centre_on({map_width / 2, map_height / 2});
     const int power = static_cast<int>(state.range(0));
     int step = 0;
@@ -296,7 +304,7 @@ void send(QWidget* surface, QEvent::Type type, QPoint point, Qt::MouseButtons he
 
 void click_to_dots_painted(benchmark::State& state) {
     const auto session = session_with_maps();
-    const auto window = shown_window(*session);
+    const auto window = ready_window(*session);
     QObject::connect(window.get(), &map::Form1::province_clicked, window.get(), [&](int province) {
         session->selection.apply(std::to_string(province));
         window->selection_or_mode_changed();
@@ -311,5 +319,49 @@ void click_to_dots_painted(benchmark::State& state) {
     }
 }
 BENCHMARK(click_to_dots_painted)->Unit(unit);
+
+void index_of_all_provinces(benchmark::State& state) {
+    const map::MapImage image(world().maps().id_map_path);
+    for ([[maybe_unused]] auto _ : state) {
+        const double before = memory();
+        map::ProvincePlaces places(image);
+        benchmark::DoNotOptimize(places.index().place(1));
+        state.counters["MB"] = memory() - before;
+    }
+}
+BENCHMARK(index_of_all_provinces)->Unit(unit);
+
+/// What a row of the index takes is what a slice may exceed its time by.
+void slice_of_the_index(benchmark::State& state) {
+    const map::MapImage image(world().maps().id_map_path);
+    map::ProvincePlaces places(image);
+    places.read_while_idle();
+    for ([[maybe_unused]] auto _ : state) {
+        QCoreApplication::processEvents();
+        if (places.complete_index())
+            places.restart();
+    }
+}
+BENCHMARK(slice_of_the_index)->Unit(unit);
+
+/// `around` surrounds the middle of the map without a pixel in it: the ID map must be read.
+void selection_to_moved_view_painted(benchmark::State& state, const std::string& around) {
+    const auto session = session_with_maps();
+    const auto window = ready_window(*session);
+    window->view().set_level(map::ZoomLevel(static_cast<int>(state.range(0))));
+    std::mt19937 random(1);
+    for ([[maybe_unused]] auto _ : state) {
+        state.PauseTiming();
+        window->view().centre_on({map_width / 2, map_height / 2});
+        QCoreApplication::processEvents();
+        state.ResumeTiming();
+        session->selection.apply(around.empty() ? std::to_string(27 + random() % 1900) : around);
+        window->selection_or_mode_changed();
+        window->follow_selection();
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK_CAPTURE(selection_to_moved_view_painted, one, "")->Apply(all_levels);
+BENCHMARK_CAPTURE(selection_to_moved_view_painted, all_around, "1")->Apply(all_levels);
 
 } // namespace

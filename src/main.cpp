@@ -58,7 +58,6 @@ void obey(const shell::CommandLine& line, shell::Session& session, shell::MDIFor
 }
 
 void save_picture(QWidget& frame, const QString& file) {
-    frame.show();
     QApplication::processEvents();
     if (!frame.grab().save(file, "PNG"))
         throw data::RunTimeError(data::ErrorNumber::path_file_access,
@@ -101,6 +100,7 @@ int run_program(shell::Application& application, shell::Session& session,
     const shell::Termination termination([&](int status) { application.terminate(status); },
                                          [&] { application.save_unsaved(); });
     if (line.screenshot) {
+        frame.show(); // the map moves to what is selected in the view that is painted
         obey(line, session, frame);
         save_picture(frame, *line.screenshot);
         return EXIT_SUCCESS;

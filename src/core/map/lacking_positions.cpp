@@ -32,11 +32,24 @@ bool lacks_position(const data::ProvinceTable& provinces, Mode mode, int provinc
            });
 }
 
-int lacking_positions(const data::ProvinceTable& provinces, Mode mode, std::string_view sea_code) {
+int lacking_positions(const data::ProvinceTable& provinces, Mode mode, std::string_view sea_code,
+                      const ProvinceIndex* index) {
     int count = 0;
-    for (int province = 1; province <= data::last_province; ++province)
-        count += lacks_position(provinces, mode, province, sea_code) ? 1 : 0;
+    for (int province = 1; province <= data::last_province; ++province) {
+        const bool is_on_map = index == nullptr || index->place(province) != nullptr;
+        count += is_on_map && lacks_position(provinces, mode, province, sea_code) ? 1 : 0;
+    }
     return count;
+}
+
+std::optional<int> next_lacking(const data::ProvinceTable& provinces, Mode mode,
+                                std::string_view sea_code, const ProvinceIndex& index, int after) {
+    for (int way = 0; way < data::last_province; ++way) {
+        const int province = (after + way) % data::last_province + 1;
+        if (index.place(province) != nullptr && lacks_position(provinces, mode, province, sea_code))
+            return province;
+    }
+    return {};
 }
 
 } // namespace map

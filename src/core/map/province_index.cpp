@@ -2,8 +2,6 @@
 
 #include "map/identification.h"
 
-#include <algorithm>
-
 namespace map {
 
 namespace {
@@ -40,12 +38,9 @@ void ProvinceIndex::add_row(int y, std::span<const Pixel> pixels) {
 void ProvinceIndex::add_run(int identifier, int y, int first_x, int end_x) {
     ProvincePlace& place = places_[static_cast<std::size_t>(identifier)];
     if (place.pixels == 0)
-        place = {first_x, y, first_x, y, first_x, y, 0, 0};
+        place = {{first_x, y, first_x, y}, first_x, y, 0, 0};
     const int length = end_x - first_x;
-    place.left = std::min(place.left, first_x);
-    place.top = std::min(place.top, y);
-    place.right = std::max(place.right, end_x - 1);
-    place.bottom = std::max(place.bottom, y);
+    place.box = united(place.box, {first_x, y, end_x - 1, y});
     if (length > place.longest_row) {
         place.inner_x = first_x + length / 2;
         place.inner_y = y;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "map/bitmap_file.h"
+#include "map/box.h"
 
 #include <cstdint>
 #include <span>
@@ -10,10 +11,7 @@ namespace map {
 
 /// Where the pixels of an identifier lie on the ID map; all in pixels.
 struct ProvincePlace {
-    int left; // the bounding box, its edges inside
-    int top;
-    int right;
-    int bottom;
+    Box box;
     int inner_x; // a pixel of the province whatever its form: the middle of its longest row
     int inner_y;
     int longest_row;

@@ -2,6 +2,8 @@
 
 #include "data/province_table.h"
 
+#include <array>
+
 namespace map {
 
 namespace {
@@ -19,6 +21,7 @@ SelectionDots::SelectionDots(int width, int height, const editor::Selection& sel
     std::vector<Pixel> pixels(static_cast<std::size_t>(columns_));
     Pixel last = no_pixel;
     bool selected = false;
+    std::array<bool, data::last_province + 1> is_met = {};
     for (int row = 0; row < rows_; ++row) {
         read_row(row * dot_spacing, pixels);
         for (int column = 0; column < columns_; ++column) {
@@ -27,12 +30,26 @@ SelectionDots::SelectionDots(int width, int height, const editor::Selection& sel
                 last = pixel;
                 const int province = pixel == no_pixel ? 0 : province_of(pixel);
                 selected = province <= data::last_province && selection.contains(province);
+                if (selected)
+                    is_met.at(static_cast<std::size_t>(province)) = true;
                 if (province > data::last_province && !foreign_point_)
                     foreign_point_ = {column * dot_spacing, row * dot_spacing, pixel & 0xFFFFFF,
                                       province};
             }
             dots_.push_back(selected);
         }
+    }
+    for (const int province : selection.provinces()) {
+        if (!is_met.at(static_cast<std::size_t>(province)))
+            missed_.push_back(province);
+    }
+}
+
+void SelectionDots::add_missed(const ProvinceIndex& index) {
+    single_dots_.clear();
+    for (const int province : missed_) {
+        if (const auto* place = index.place(province))
+            single_dots_.push_back({place->inner_x, place->inner_y});
     }
 }
 

@@ -3,6 +3,7 @@
 #include "editor/selection.h"
 #include "map/bitmap_file.h"
 #include "map/identification.h"
+#include "map/province_index.h"
 
 #include <functional>
 #include <optional>
@@ -25,7 +26,14 @@ struct ForeignPoint {
     int identifier;
 };
 
-/// Which points of a grid over the map lie in selected provinces.
+/// A pixel of the map.
+struct Point {
+    int x;
+    int y;
+};
+
+/// Which points of a grid over the map lie in selected provinces, and a point of its own for each
+/// selected province that the grid misses.
 class SelectionDots {
   public:
     /// No grid at all.
@@ -41,6 +49,12 @@ class SelectionDots {
     /// Returns whether the point has a dot; it must be inside the grid.
     bool has_dot(int column, int row) const;
 
+    /// Gives each selected province that no point of the grid meets a dot at its inner pixel.
+    void add_missed(const ProvinceIndex& index);
+
+    /// Returns the dots beside the grid.
+    std::span<const Point> single_dots() const { return single_dots_; }
+
     /// Returns the first point, row by row, with an identifier above 2018, if there is one.
     const std::optional<ForeignPoint>& foreign_point() const { return foreign_point_; }
 
@@ -48,6 +62,8 @@ class SelectionDots {
     int columns_ = 0;
     int rows_ = 0;
     std::vector<char> dots_;
+    std::vector<int> missed_; // selected provinces
+    std::vector<Point> single_dots_;
     std::optional<ForeignPoint> foreign_point_;
 };
 

@@ -20,8 +20,8 @@ constexpr double farthest_port = 50; // pixels between a port and its sea's boun
 
 /// Returns how far the point lies from the bounding box, in pixels; 0 inside.
 double distance(const map::ProvincePlace& place, double x, double y) {
-    const double dx = std::max({place.left - x, x - place.right, 0.0});
-    const double dy = std::max({place.top - y, y - place.bottom, 0.0});
+    const double dx = std::max({place.box.left - x, x - place.box.right, 0.0});
+    const double dy = std::max({place.box.top - y, y - place.box.bottom, 0.0});
     return std::hypot(dx, dy);
 }
 

@@ -93,6 +93,11 @@ void draw_dots(QPainter& painter, const SelectionDots& dots, const QRect& expose
                 draw_dot(painter, *point, level);
         }
     }
+    for (const Point& single : dots.single_dots()) {
+        const QPoint point(single.x, single.y);
+        if (dot_rect(point, level).intersects(exposed))
+            draw_dot(painter, point, level);
+    }
 }
 
 } // namespace map

@@ -46,6 +46,7 @@ Form1::Form1(shell::Session& session, QWidget* parent)
       map_2_(open_optional(session.maps.map_2_path)),
       id_map_(session.maps.id_map_path),
       overlay_(session),
+      places_(id_map_),
       view_(new MapView(this)) {
     setObjectName(QStringLiteral("Form1"));
     const auto add_picture = [this](ShownMap which, const char* name, const MapImage& image) {
@@ -67,8 +68,10 @@ Form1::Form1(shell::Session& session, QWidget* parent)
     connect(view_, &MapView::tabbed, this, &Form1::tabbed);
     connect(view_, &MapView::problem, this, &Form1::tell_place);
     connect(&overlay_, &OverlayPreview::problem, this, &Form1::tell);
+    connect(&places_, &ProvincePlaces::completed, this, &Form1::add_missed_dots);
     session_.port_placement.stage = 0;
     show_map(ShownMap::map_1);
+    places_.read_while_idle();
 }
 
 QSize Form1::sizeHint() const {
@@ -82,6 +85,7 @@ void Form1::show_map(ShownMap which) {
 }
 
 void Form1::clear_graphique() {
+    drop_needless_outline();
     view_->repaint_maps();
 }
 
@@ -111,7 +115,10 @@ void Form1::follow_files() {
     follow(map_1_);
     if (map_2_)
         follow(*map_2_);
-    follow(id_map_);
+    if (follow_file(id_map_)) {
+        changed = true;
+        forget_places();
+    }
     if (changed) {
         view_->take_sizes();
         work_out_dots();
@@ -192,6 +199,7 @@ void Form1::enter_position(const QMouseEvent& event, int province) {
     if (port.stage == 1 && !sea_was_awaited) { // only the port has moved, which waits for its sea
         view_->repaint_maps(before);
         view_->repaint_maps(shown_graphics(province));
+        drop_needless_outline();
     } else {
         clear_graphique();
     }
@@ -223,6 +231,8 @@ void Form1::work_out_dots() {
     dots_ = SelectionDots(
         map_1_.size().width(), map_1_.size().height(), session_.selection,
         [&reader](int y, std::span<Pixel> pixels) { reader.read_row(y, 0, dot_spacing, pixels); });
+    if (const auto* index = places_.complete_index())
+        dots_.add_missed(*index);
     tell_place(reader.problem());
     if (dots_.foreign_point() && !std::exchange(foreign_point_reported_, true))
         // What was begun, be it the opening of the maps or a new selection, is finished first.
@@ -240,6 +250,8 @@ void Form1::show_foreign_point(const ForeignPoint& point) {
 void Form1::draw_above(QPainter& painter, const QRegion& exposed) {
     if (session_.mode != Mode::normal) {
         overlay_.ajout_graph(painter, exposed, view_->level(), pointed_province_);
+        if (outlined_)
+            outlined_->draw(painter, exposed, view_->level());
         return;
     }
     for (const QRect& rectangle : exposed) {

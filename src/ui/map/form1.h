@@ -2,8 +2,10 @@
 
 #include "map/field_colours.h"
 #include "map/map_image.h"
+#include "map/outlined_province.h"
 #include "map/overlay_preview.h"
 #include "map/position_entry.h"
+#include "map/province_places.h"
 #include "map/selection_dots.h"
 #include "map/shown_map.h"
 #include "shell/session.h"
@@ -57,6 +59,24 @@ class Form1 : public QWidget {
     /// Redraws the maps for other graphics, or another choice among them.
     void graphics_changed();
 
+    /// Returns where the provinces lie on the ID map.
+    const ProvincePlaces& places() const { return places_; }
+
+    /// Returns the index of the places, after reading what it lacks.
+    const ProvinceIndex& index() { return places_.index(); }
+
+    /// Moves the view to the selection when no pixel of it is in view.
+    void follow_selection();
+
+    /// Moves the view to the selection, and out until it fits. Returns whether any selected
+    /// province has a pixel.
+    bool montrer();
+
+    /// In a position mode: outlines the next province that lacks the position, behind the one that
+    /// was shown last, and moves the view to it. Returns its identifier; nothing when none lacks
+    /// it.
+    std::optional<int> suivante();
+
   signals:
     /// The pointer moved over the province while no button was held; where, in pixels of the map.
     void pointed(int province, const QPointF& position);
@@ -89,9 +109,15 @@ class Form1 : public QWidget {
     bool follow_file(MapImage& image);
     void work_out_dots();
     void show_foreign_point(const ForeignPoint& point);
+    void add_missed_dots();
+    void forget_places();
     void draw_above(QPainter& painter, const QRegion& exposed);
     void tell(const QString& reason);
     void tell_place(const std::optional<data::Place>& place);
+
+    void bring_into_view(const QRect& part);
+    void outline(std::optional<OutlinedProvince> province);
+    void drop_needless_outline();
 
     shell::Session& session_;
     MapImage map_1_;
@@ -101,6 +127,10 @@ class Form1 : public QWidget {
     OverlayPreview overlay_;
     SelectionDots dots_;
     bool foreign_point_reported_ = false;
+    ProvincePlaces places_;
+    std::optional<OutlinedProvince> outlined_;
+    Mode outlined_in_ = Mode::normal;
+    int shown_last_ = 0; // by suivante
 
     MapView* view_;
     QSet<QString> told_; // reasons, since mode, maps or graphics changed

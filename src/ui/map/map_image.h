@@ -62,6 +62,10 @@ class MapReader : public StripReader {
     /// cannot be read.
     std::optional<Colour> colour_at(QPoint point);
 
+    /// Returns the identifier at the point (pixels); 0 outside the image and where the file cannot
+    /// be read.
+    int province_at(QPoint point) { return province_of(colour_at(point).value_or(0)); }
+
     /// Fills the upper left corner of `target`, a 32-bit RGB image of the rectangle's size or
     /// larger, with the rectangle (shown pixels, inside the image) as it is shown at the level;
     /// grey where it cannot be read. Below level 1 a shown pixel is the mean of four of the image:

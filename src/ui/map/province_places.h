@@ -3,30 +3,62 @@
 #include "map/map_image.h"
 #include "map/province_index.h"
 
-#include <QSize>
+#include <QObject>
+#include <QTimer>
+
+#include <chrono>
+#include <cstdint>
+#include <vector>
 
 namespace map {
 
-/// Where the provinces lie on an ID map, from one pass over all its rows.
-class ProvincePlaces {
+/// Where the provinces lie on an ID map, from one pass over all its rows: in small slices while
+/// the program is idle, or at once for whom needs it.
+class ProvincePlaces : public QObject {
+    Q_OBJECT
+
   public:
-    /// Reads the whole map; rows that cannot be read have no provinces. The map must outlive this.
-    explicit ProvincePlaces(const MapImage& id_map);
+    /// What the user does never waits longer for a slice; at least a row is read in each.
+    static constexpr std::chrono::milliseconds usual_slice{5};
 
-    const ProvinceIndex& index() const { return index_; }
-    QSize size() const { return id_map_.size(); }
+    /// The map must outlive this. Nothing is read yet.
+    explicit ProvincePlaces(const MapImage& id_map, std::chrono::milliseconds slice = usual_slice);
 
-    /// Returns the identifier at the point (pixels); 0 outside the map and where it cannot be read.
-    int province_at(int x, int y) const;
+    /// Reads on whenever the event loop has nothing else to do.
+    void read_while_idle() { idle_.start(); }
 
-    /// Returns why something of the map could not be read, with the file; nothing while all
-    /// could.
-    const std::optional<data::Place>& problem() const { return reader_.problem(); }
+    /// Forgets what was read of a file that was changed since, and reads anew while idle.
+    void restart();
+
+    /// Returns the index, after reading what it lacks; rows that cannot be read have no provinces.
+    const ProvinceIndex& index();
+
+    /// Returns the index; nothing (null) until all rows were read.
+    const ProvinceIndex* complete_index() const { return is_complete() ? &index_ : nullptr; }
+
+    /// Returns 0 until all rows were read, then a number that differs after each reading.
+    std::uint64_t version() const { return is_complete() ? readings_ : 0; }
+
+    /// Returns why something of the map could not be read, with the file; nothing while all could.
+    const std::optional<data::Place>& problem() const { return problem_; }
+
+  signals:
+    /// All rows were read.
+    void completed();
 
   private:
+    bool is_complete() const { return next_row_ >= id_map_.size().height(); }
+
+    /// Reads row by row until all are read, or until the time is over.
+    void read_rows(std::chrono::milliseconds at_most);
+
     const MapImage& id_map_;
-    mutable MapReader reader_; // one look at the file for all points
     ProvinceIndex index_;
+    int next_row_ = 0;
+    std::uint64_t readings_ = 1;
+    std::vector<Pixel> row_;
+    std::optional<data::Place> problem_;
+    QTimer idle_;
 };
 
 } // namespace map

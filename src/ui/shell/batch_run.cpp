@@ -88,14 +88,18 @@ std::vector<Problem> check_maps(const Session& session, const map::Maps& maps,
             base::read_file(path, 1); // only the ID map is looked at, but a wrong name is an error
     }
     const map::MapImage image(maps.id_map_path);
-    const map::ProvincePlaces places(image);
-    const QSize size = places.size();
+    map::ProvincePlaces places(image);
+    map::MapReader reader(image);
     auto problems = check_places(session.provinces, session.language,
-                                 {size.width(), size.height(), maps, places.index(),
-                                  [&](int x, int y) { return places.province_at(x, y); }},
+                                 {image.size().width(), image.size().height(), maps, places.index(),
+                                  [&](int x, int y) {
+                                      return reader.province_at({x, y});
+                                  }},
                                  lines);
-    if (const auto& problem = places.problem())
-        throw data::RunTimeError(data::ErrorNumber::path_file_access, *problem);
+    for (const auto& problem : {places.problem(), reader.problem()}) {
+        if (problem)
+            throw data::RunTimeError(data::ErrorNumber::path_file_access, *problem);
+    }
     return problems;
 }
 

@@ -23,7 +23,8 @@ QSize Etat::sizeHint() const {
 
 void Etat::look() {
     const State now{session_.selection.version(), session_.provinces.version(),
-                    session_.provinces.has_unsaved_changes(), session_.mode};
+                    session_.provinces.has_unsaved_changes(), session_.mode,
+                    places_ ? places_->version() : 0};
     if (shown_ == now)
         return;
     shown_ = now;
@@ -35,10 +36,8 @@ QString Etat::words() const {
     const auto selected = static_cast<int>(session_.selection.provinces().size());
     QStringList parts;
     // What matters most in the mode comes first: the end may not fit.
-    if (session_.mode != map::Mode::normal) {
-        const int lacking = map::lacking_positions(session_.provinces, session_.mode, sea_code_);
-        parts += base::own_text(language, Text::etat_lacking, QString::number(lacking));
-    }
+    if (session_.mode != map::Mode::normal)
+        parts += lacking();
     if (selected == 0)
         parts += base::own_text(language, Text::etat_none_selected);
     else
@@ -48,6 +47,12 @@ QString Etat::words() const {
     if (session_.provinces.has_unsaved_changes())
         parts += base::own_text(language, Text::etat_unsaved);
     return parts.join(QStringLiteral(", "));
+}
+
+QString Etat::lacking() const {
+    const int count = map::lacking_positions(session_.provinces, session_.mode, sea_code_,
+                                             places_ ? places_->complete_index() : nullptr);
+    return base::own_text(session_.language, Text::etat_lacking, QString::number(count));
 }
 
 } // namespace shell

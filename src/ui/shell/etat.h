@@ -1,7 +1,10 @@
 #pragma once
 
 #include "base/elided_label.h"
+#include "map/province_places.h"
 #include "shell/session.h"
+
+#include <QPointer>
 
 #include <cstdint>
 #include <optional>
@@ -15,6 +18,9 @@ class Etat : public base::ElidedLabel {
   public:
     /// The session must outlive the label.
     Etat(const Session& session, QWidget* parent);
+
+    /// Leaves out, for as long as the places exist, the provinces that the map lacks.
+    void count_on_map(const map::ProvincePlaces& places) { places_ = &places; }
 
     /// Returns the size of the words, but at most a part of the status bar: the label insists on
     /// that, and what lies beyond is elided where there is no more room.
@@ -30,12 +36,15 @@ class Etat : public base::ElidedLabel {
         std::uint64_t provinces_version;
         bool has_unsaved_changes;
         map::Mode mode;
+        std::uint64_t places_version; // 0: not known which provinces the map has
         friend bool operator==(const State&, const State&) = default;
     };
 
     QString words() const;
+    QString lacking() const;
 
     const Session& session_;
+    QPointer<const map::ProvincePlaces> places_;
     std::string sea_code_;
     std::optional<State> shown_;
 };

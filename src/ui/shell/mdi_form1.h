@@ -66,7 +66,10 @@ class MDIForm1 : public QMainWindow {
     void zoom_moins();
     void zoom_1();
     void zoom_tout();
+    void montrer();
     void enter_mode(map::Mode mode);
+    /// In a position mode: shows the next province that lacks the position.
+    void suivante();
     /// Previews the set of a kind's item, counted from 1.
     void preview(gfx::SpriteKind kind, int item);
     void toggle_drawings();
@@ -128,9 +131,13 @@ class MDIForm1 : public QMainWindow {
     /// name that the table does not have.
     QAction* action(std::string_view name) const;
     void focus_selection_text();
+    /// Whether the map's view moves to a selection of which nothing is in view.
+    enum class View { follows, stays };
+
     /// Selects what the field names. An error that the caller knows better is shown instead of the
     /// one that an identifier above 2018 leads to.
-    void apply_selection(const std::optional<data::RunTimeError>& known_error = {});
+    void apply_selection(View view = View::follows,
+                         const std::optional<data::RunTimeError>& known_error = {});
     /// Takes the present selection into the history; a text that names it all shows it there.
     void remember_selection(const std::string& text);
     void select_clicked(int identifier, bool add, const data::Phrase& place);
@@ -139,6 +146,8 @@ class MDIForm1 : public QMainWindow {
     void check_map(map::ShownMap shown);
     void enable_map_items(bool enabled);
     void enable_zoom_items(map::ZoomLevel level);
+    /// Enables the items that need a selection or a position mode, and maps.
+    void enable_place_items();
 
     void save_to(const std::string& path);
     /// Keeps what is unsaved before something else is read over it; false when that failed.
@@ -149,9 +158,12 @@ class MDIForm1 : public QMainWindow {
 
     /// Returns the map window, made anew when it was closed; none without maps.
     map::Form1* map_window();
+    /// Returns the same, not minimised any more.
+    map::Form1* seen_map_window();
     void make_map_window();
     void fit_map_window();
     void zoom_by(int steps);
+    QString name_of(int province) const;
     void show_pointed(int province, const QPointF& position);
 
     Session& session_;

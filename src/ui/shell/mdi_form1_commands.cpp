@@ -80,6 +80,7 @@ void MDIForm1::enter_mode(map::Mode mode) {
     check_mode();
     if (mode != map::Mode::normal)
         panel_->forget_shown(); // to be hidden with the focus is not to be left
+    enable_place_items();
     panel_->setVisible(mode == map::Mode::normal);
     if (auto* map = map_window())
         map->selection_or_mode_changed();
@@ -180,12 +181,12 @@ void MDIForm1::select_clicked(int identifier, bool add, const data::Phrase& plac
     const std::string present = add ? panel_->selection_text() : std::string();
     panel_->set_selection_text(editor::with_province(present, identifier));
     if (identifier > data::last_province)
-        apply_selection(map::no_such_province(identifier).within(place));
+        apply_selection(View::stays, map::no_such_province(identifier).within(place));
     else
-        apply_selection();
+        apply_selection(View::stays);
 }
 
-void MDIForm1::apply_selection(const std::optional<data::RunTimeError>& known_error) {
+void MDIForm1::apply_selection(View view, const std::optional<data::RunTimeError>& known_error) {
     const std::string text = panel_->selection_text();
     panel_->write_typed_text(); // a shortcut selects without taking the focus from a field
     if (!editor::is_well_formed(text))
@@ -203,6 +204,8 @@ void MDIForm1::apply_selection(const std::optional<data::RunTimeError>& known_er
     }
     if (map_)
         map_->selection_or_mode_changed();
+    if (map_ && view == View::follows)
+        map_->follow_selection();
     panel_->show_selection();
 }
 
@@ -211,6 +214,7 @@ void MDIForm1::remember_selection(const std::string& text) {
     history_.add(editor::is_well_formed(text) ? text : named, named);
     action("sélection_précédente")->setEnabled(history_.has_earlier());
     action("sélection_suivante")->setEnabled(history_.has_later());
+    enable_place_items();
 }
 
 void MDIForm1::selection_precedente() {

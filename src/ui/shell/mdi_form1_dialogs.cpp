@@ -1,5 +1,4 @@
 #include "editor/panneau.h"
-#include "map/province_places.h"
 #include "shell/form_controle.h"
 #include "shell/form_modifications.h"
 #include "shell/form_recherche.h"
@@ -72,10 +71,13 @@ std::vector<Problem> MDIForm1::problems() const {
     };
     add(check_values(session_.provinces, session_.language, {}));
     if (map_) {
-        const map::ProvincePlaces places(map_->id_map());
+        map::MapReader reader(map_->id_map());
+        const QSize size = map_->id_map().size();
         add(check_places(session_.provinces, session_.language,
-                         {places.size().width(), places.size().height(), session_.maps,
-                          places.index(), [&](int x, int y) { return places.province_at(x, y); }},
+                         {size.width(), size.height(), session_.maps, map_->index(),
+                          [&reader](int x, int y) {
+                              return reader.province_at({x, y});
+                          }},
                          {}));
     }
     return found;

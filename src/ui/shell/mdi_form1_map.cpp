@@ -1,3 +1,4 @@
+#include "base/captions.h"
 #include "base/qt_text.h"
 #include "base/shown_text.h"
 #include "base/stored_path.h"
@@ -6,6 +7,7 @@
 #include "map/map_view.h"
 #include "map/position_entry.h"
 #include "shell/coloriage.h"
+#include "shell/etat.h"
 #include "shell/mdi_form1.h"
 
 #include <QAction>
@@ -43,6 +45,13 @@ void MDIForm1::enable_map_items(bool enabled) {
         action(name)->setEnabled(enabled);
     for (auto* item : action("colorer")->menu()->actions())
         item->setEnabled(enabled);
+    enable_place_items();
+}
+
+void MDIForm1::enable_place_items() {
+    const bool has_maps = action("normal")->isEnabled();
+    action("montrer")->setEnabled(has_maps && !session_.selection.provinces().empty());
+    action("suivante")->setEnabled(has_maps && session_.mode != map::Mode::normal);
 }
 
 void MDIForm1::enable_zoom_items(map::ZoomLevel level) {
@@ -62,6 +71,13 @@ map::Form1* MDIForm1::map_window() {
     return map_;
 }
 
+map::Form1* MDIForm1::seen_map_window() {
+    auto* map = map_window();
+    if (map)
+        map_frame_->setWindowState(map_frame_->windowState() & ~Qt::WindowMinimized);
+    return map;
+}
+
 void MDIForm1::make_map_window() {
     delete map_frame_;
     action("carte_2")->setEnabled(false);
@@ -77,6 +93,7 @@ void MDIForm1::make_map_window() {
     connect(&map_->view(), &map::MapView::level_changed, this, &MDIForm1::enable_zoom_items);
     enable_zoom_items({});
     map_->colour(coloriage_->colours());
+    etat_->count_on_map(map_->places());
     action("carte_2")->setEnabled(map_->has_map_2());
     check_map(map::ShownMap::map_1);
     map_frame_->show();
@@ -85,10 +102,6 @@ void MDIForm1::make_map_window() {
 
 void MDIForm1::show_pointed(int province, const QPointF& position) {
     pointer_text_->setText(QStringLiteral("id = %1").arg(province));
-    const QString name = province > data::last_province
-                             ? QString()
-                             : base::caption_text(session_.provinces.cell(
-                                   province, data::table_column(data::column::name)));
     QString coordinates;
     try {
         const auto x = map::stored_x(session_.maps, position.x());
@@ -98,15 +111,14 @@ void MDIForm1::show_pointed(int province, const QPointF& position) {
     } catch (const data::RunTimeError&) {
         // A click there would store nothing.
     }
-    pointed_name_->setText(QStringLiteral("%1 %2").arg(name, coordinates).trimmed());
+    pointed_name_->setText(QStringLiteral("%1 %2").arg(name_of(province), coordinates).trimmed());
 }
 
 void MDIForm1::show_map(map::ShownMap shown) {
-    auto* map = map_window();
+    auto* map = seen_map_window();
     if (!map)
         return;
     map->show_map(shown);
-    map_frame_->setWindowState(map_frame_->windowState() & ~Qt::WindowMinimized);
     check_map(shown);
 }
 
@@ -131,6 +143,31 @@ void MDIForm1::zoom_1() {
 void MDIForm1::zoom_tout() {
     if (auto* map = map_window())
         map->view().show_whole_map();
+}
+
+void MDIForm1::montrer() {
+    auto* map = seen_map_window();
+    if (map && !map->montrer())
+        tell(base::own_text(session_.language, Text::notice_selection_not_on_map));
+}
+
+void MDIForm1::suivante() {
+    auto* map = seen_map_window();
+    if (!map)
+        return;
+    if (const auto province = map->suivante())
+        tell(base::own_text(session_.language, Text::notice_next_lacking,
+                            QString::number(*province), name_of(*province))
+                 .trimmed());
+    else
+        tell(base::own_text(session_.language, Text::notice_none_lacks));
+}
+
+QString MDIForm1::name_of(int province) const {
+    if (province > data::last_province)
+        return {};
+    return base::caption_text(
+        session_.provinces.cell(province, data::table_column(data::column::name)));
 }
 
 void MDIForm1::check_map(map::ShownMap shown) {

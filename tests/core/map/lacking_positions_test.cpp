@@ -1,4 +1,5 @@
 #include "map/lacking_positions.h"
+#include "support/bitmaps.h"
 
 #include <gtest/gtest.h>
 
@@ -44,8 +45,33 @@ TEST(LackingPositions, WhichProvincesNeedWhichPosition) {
         put(row.x_column + 1, row.y);
         EXPECT_EQ(map::lacks_position(table, row.mode, 7, "sea"), row.lacks);
         const int others = row.mode == port ? 0 : data::last_province - 1;
-        EXPECT_EQ(map::lacking_positions(table, row.mode, "sea"), others + (row.lacks ? 1 : 0));
+        EXPECT_EQ(map::lacking_positions(table, row.mode, "sea", nullptr),
+                  others + (row.lacks ? 1 : 0));
     }
+}
+
+TEST(LackingPositions, NextIsOnTheMapAndRoundTheEnd) {
+    data::ProvinceTable table;
+    map::ProvinceIndex index;
+    std::vector<map::Pixel> row;
+    for (const int identifier : {2018, 3, 40, 7, 3000})
+        row.push_back(0xFF000000 | bitmaps::colour_of(identifier));
+    index.add_row(0, row);
+    table.load(7, data::table_column(data::column::city_x), "10");
+    table.load(7, data::table_column(data::column::city_y), "20");
+    const auto next = [&](int after) {
+        return map::next_lacking(table, map::Mode::ville, "sea", index, after).value_or(-1);
+    };
+    EXPECT_EQ(map::lacking_positions(table, map::Mode::ville, "sea", &index), 3);
+    EXPECT_EQ(next(0), 3);
+    EXPECT_EQ(next(3), 40);
+    EXPECT_EQ(next(40), 2018);
+    EXPECT_EQ(next(2018), 3);
+    for (const int province : {40, 2018})
+        table.load(province, data::table_column(data::column::terrain), "sea");
+    EXPECT_EQ(next(3), 3) << "the only one is its own next";
+    table.load(3, data::table_column(data::column::terrain), "sea");
+    EXPECT_EQ(next(3), -1);
 }
 
 } // namespace

@@ -51,11 +51,11 @@ TEST(ProvinceIndex, AgreesWithEveryPixel) {
                 continue;
             auto& place = expected
                               .try_emplace(map::province_of(pixel),
-                                           map::ProvincePlace{x, y, x, y, 0, 0, 0, 0})
+                                           map::ProvincePlace{{x, y, x, y}, 0, 0, 0, 0})
                               .first->second;
-            place.left = std::min(place.left, x);
-            place.right = std::max(place.right, x);
-            place.bottom = y;
+            place.box.left = std::min(place.box.left, x);
+            place.box.right = std::max(place.box.right, x);
+            place.box.bottom = y;
             ++place.pixels;
         }
     }
@@ -66,8 +66,7 @@ TEST(ProvinceIndex, AgreesWithEveryPixel) {
         if (!place)
             continue;
         const auto& right = expected.at(identifier);
-        EXPECT_EQ(std::tie(place->left, place->top, place->right, place->bottom, place->pixels),
-                  std::tie(right.left, right.top, right.right, right.bottom, right.pixels));
+        EXPECT_EQ(std::tie(place->box, place->pixels), std::tie(right.box, right.pixels));
         const auto& inner_row = rows.at(static_cast<std::size_t>(place->inner_y));
         EXPECT_EQ(map::province_of(inner_row.at(static_cast<std::size_t>(place->inner_x))),
                   identifier);

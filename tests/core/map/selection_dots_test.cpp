@@ -57,4 +57,20 @@ TEST(SelectionDots, GridCoversTheMap) {
     }
 }
 
+TEST(SelectionDots, ProvincesThatTheGridMissesHaveTheirOwn) {
+    auto dots = dots_of({"AB", "BB"}, "1;3;4;5", 40, 40);
+    EXPECT_TRUE(dots.single_dots().empty());
+    map::ProvinceIndex index;
+    const auto pixel = [](int identifier) { return 0xFF000000 | bitmaps::colour_of(identifier); };
+    index.add_row(7, std::vector<map::Pixel>{pixel(4), pixel(4), pixel(4), pixel(1), pixel(6)});
+    index.add_row(8, std::vector<map::Pixel>{pixel(4), pixel(2), pixel(3)});
+    for (int times = 0; times < 2; ++times) {
+        dots.add_missed(index);
+        std::string placed;
+        for (const auto& point : dots.single_dots())
+            placed += std::to_string(point.x) + "," + std::to_string(point.y) + " ";
+        EXPECT_EQ(placed, "2,8 1,7 ") << "5 is not on the map, 1 is met, 6 not selected";
+    }
+}
+
 } // namespace
