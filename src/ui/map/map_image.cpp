@@ -191,7 +191,8 @@ bool MapReader::read_shown_row(int y, int first_shown_x, ZoomLevel level, std::s
         return read_row(y, level.on_map(first_shown_x), level.step(), shown);
     const int first_x = level.on_map(first_shown_x);
     const int last_x = level.on_map(first_shown_x + static_cast<int>(shown.size()) - 1);
-    row_.resize(static_cast<std::size_t>(last_x - first_x + 1));
+    const int count = last_x - first_x + 1;
+    row_.resize(static_cast<std::size_t>(count));
     const bool readable = read_row(y, first_x, 1, row_);
     const int offset = first_shown_x - level.shown(first_x);
     for (std::size_t i = 0; i < shown.size(); ++i)
