@@ -6,7 +6,7 @@ namespace data {
 
 namespace {
 
-Text words(ErrorNumber number) {
+Text words_of(ErrorNumber number) {
     switch (number) {
     case ErrorNumber::invalid_procedure_call:
         return Text::error_invalid_procedure_call;
@@ -31,7 +31,7 @@ Text words(ErrorNumber number) {
 }
 
 std::string text_of(ErrorNumber number, const Place& place, const Dictionary& dictionary) {
-    const Phrase heading(Text::error_heading, static_cast<int>(number), dictionary(words(number)));
+    const Phrase heading(Text::error_heading, static_cast<int>(number), dictionary(words_of(number)));
     return heading.in(dictionary) + '\n' + place.in(dictionary);
 }
 
@@ -48,6 +48,10 @@ RunTimeError::RunTimeError(ErrorNumber number, Place place)
     : std::runtime_error(without_nul(text_of(number, place, english))),
       number_(number),
       place_(std::move(place)) {}
+
+Text RunTimeError::words() const {
+    return words_of(number_);
+}
 
 std::string RunTimeError::in(const Dictionary& dictionary) const {
     return text_of(number_, place_, dictionary);

@@ -29,6 +29,9 @@ class RunTimeError : public std::runtime_error {
     ErrorNumber number() const { return number_; }
     const Place& place() const { return place_; }
 
+    /// Returns the platform's words for the number.
+    Text words() const;
+
     /// Returns the number, the platform's words for it and the place on the next line; `what` is
     /// the same in English.
     std::string in(const Dictionary& dictionary) const;

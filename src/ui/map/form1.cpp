@@ -6,7 +6,6 @@
 #include "map/coloured_strips.h"
 #include "map/dots.h"
 #include "map/map_view.h"
-#include "shell/error_text.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -133,8 +132,9 @@ bool Form1::follow_file(MapImage& image) {
     try {
         return image.follow_file();
     } catch (const data::RunTimeError& error) {
-        tell(base::message_text(session_.language.text(shell::words_of(error.number())) + ": " +
-                                error.place()));
+        const auto& language = session_.language;
+        tell(
+            base::message_text(language.text(error.words()) + ": " + language.text(error.place())));
         return true;
     }
 }

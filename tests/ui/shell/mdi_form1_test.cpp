@@ -116,8 +116,10 @@ TEST_F(MDIForm1, LanguageMenu) {
 /// Returns every caption of the frame and its menus.
 std::multiset<QString> captions(const QWidget& frame) {
     std::multiset<QString> found;
-    for (const auto* action : frame.findChildren<QAction*>())
-        found.insert(action->text());
+    for (const auto* action : frame.findChildren<QAction*>()) {
+        if (!action->objectName().startsWith("colorer(")) // they repeat the panel's captions
+            found.insert(action->text());
+    }
     for (const auto* label : frame.findChildren<QLabel*>())
         found.insert(label->text());
     for (const auto* box : frame.findChildren<QGroupBox*>())
