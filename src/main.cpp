@@ -4,13 +4,13 @@
 #include "shell/command_line.h"
 #include "shell/etat.h"
 #include "shell/mdi_form1.h"
+#include "shell/program_folder.h"
 #include "shell/qt_texts.h"
 #include "shell/read_report.h"
 #include "shell/start_up.h"
 #include "shell/termination.h"
 
 #include <QScopeGuard>
-#include <QScreen>
 
 #include <cstdio>
 #include <cstdlib>
@@ -18,6 +18,7 @@
 #include <iostream>
 #include <optional>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <variant>
 #include <vector>
@@ -57,30 +58,28 @@ void obey(const shell::CommandLine& line, shell::Session& session, shell::MDIFor
         frame.assign(line.assignments);
 }
 
-void save_picture(QWidget& frame, const QString& file) {
+void save_picture(const shell::Screenshot& picture, shell::MDIForm1& frame) {
+    if (picture.page)
+        frame.show_page(*picture.page);
+    if (picture.mode)
+        frame.enter_mode(*picture.mode);
+    if (picture.colour)
+        frame.colour_by(*picture.colour);
+    if (picture.level)
+        frame.zoom_to(*picture.level);
     QApplication::processEvents();
-    if (!frame.grab().save(file, "PNG"))
+    if (picture.size && frame.size() != *picture.size)
+        throw std::runtime_error("The frame takes at least " + std::to_string(frame.width()) + "x" +
+                                 std::to_string(frame.height()) + " pixels");
+    if (!frame.grab().save(picture.file, "PNG"))
         throw data::RunTimeError(data::ErrorNumber::path_file_access,
                                  data::Phrase(data::Text::reason_picture))
-            .within(base::path_bytes(file));
-}
-
-/// A frame that its screen could not hold together with its title bar takes the whole screen.
-void show_window(QWidget& frame) {
-    const QSize room = frame.screen()->availableSize();
-    if (room.width() > frame.width() && room.height() > frame.height())
-        frame.show();
-    else
-        frame.showMaximized();
-}
-
-std::string program_folder(const shell::CommandLine& line) {
-    return line.folder.value_or(base::stored_path(QCoreApplication::applicationDirPath()));
+            .within(base::path_bytes(picture.file));
 }
 
 int run_program(shell::Application& application, shell::Session& session,
                 const shell::CommandLine& line) {
-    session.program_folder = program_folder(line);
+    session.program_folder = shell::program_folder(line.folder);
     session.unattended = line.screenshot.has_value();
 
     const shell::Run run = shell::start_up(session);
@@ -100,12 +99,14 @@ int run_program(shell::Application& application, shell::Session& session,
     const shell::Termination termination([&](int status) { application.terminate(status); },
                                          [&] { application.save_unsaved(); });
     if (line.screenshot) {
+        if (line.screenshot->size)
+            frame.resize(*line.screenshot->size);
         frame.show(); // the map moves to what is selected in the view that is painted
         obey(line, session, frame);
-        save_picture(frame, *line.screenshot);
+        save_picture(*line.screenshot, frame);
         return EXIT_SUCCESS;
     }
-    show_window(frame);
+    frame.show_as_left();
     obey(line, session, frame);
     application.event_loop_begins();
     return QApplication::exec();
@@ -129,9 +130,7 @@ std::optional<int> work_without_window(int& argc, char** argv) {
     const auto& line = std::get<shell::CommandLine>(asked);
     if (line.needs_window())
         return {};
-    shell::Session session;
-    session.program_folder = program_folder(line);
-    return shell::batch_run(line, session);
+    return shell::batch_run(line);
 }
 
 int start_program(int& argc, char** argv) {

@@ -24,13 +24,25 @@ TEST_F(Program, ArgumentsAndWhatTheyEndWith) {
         const char* output = "";
     } rows[] = {
         {{"--help"}, 0, {}, "--screenshot"},
-        {{"--version"}, 0, {}, "Province Editor 0.9.12"},
-        {{"--colour"}, 2, {"colour", "Usage"}},
+        {{"--version"}, 0, {}, "Province Editor " PROVINCE_EDITOR_VERSION "\n"},
+        {{"--paint"}, 2, {"paint", "Usage"}},
         {{"file.csv"}, 2, {"file.csv", "Usage"}},
         {{"--csv"}, 2, {"csv", "Usage"}},
         {{"--map1", "x.bmp"}, 2, {"--id-map"}},
         {{"--offset", "1,2"}, 2, {"--offset"}},
         {{"--map1", "a", "--id-map", "b", "--offset", "1,40000"}, 2, {"40000"}},
+        {{"--size", "10"}, 2, {"--size", "WIDTHxHEIGHT"}},
+        {{"--size", "0x10"}, 2, {"--size"}},
+        {{"--size", "10x20000"}, 2, {"--size"}},
+        {{"--size", "10x10"}, 1, {"at least"}},
+        {{"--tab", "6"}, 2, {"1 to 5"}},
+        {{"--tab", "x"}, 2, {"1 to 5"}},
+        {{"--mode", "city"}, 2, {"armees"}},
+        {{"--zoom", "3"}, 2, {"--zoom", "1/32"}},
+        {{"--colour", "Colour"}, 2, {"Colour", "header"}},
+        {{"--colour", "Name"}, 2, {"Name"}},
+        {{"--colour", "Religion"}, 2, {"needs the maps"}},
+        {{"--mode", "ville"}, 2, {"--mode needs the maps"}},
         {{"--csv", "good.csv"}, 0, {"good.csv: provinces read: 2"}},
         {{"--csv", "unix.csv"}, 0, {"provinces read: 0", "carriage return"}},
         {{"--csv", "none.csv"}, 0, {"provinces read: 0", "identifier from 1 to 2018"}},
@@ -62,6 +74,24 @@ TEST_F(Program, PaintsItsWindow) {
     const QImage picture(folder.native("picture.png"));
     EXPECT_EQ(picture.size(), QSize(1280, 720));
     EXPECT_NE(picture.pixel(10, 10), picture.pixel(300, 300)) << "menu bar and workspace";
+    const auto painted = [this](const QStringList& how) {
+        EXPECT_EQ(run(QStringList{"--screenshot", "picture.png", "--size", "1400x900"} + how), 0);
+        return QImage(folder.native("picture.png"));
+    };
+    folder.write("map.bmp", bitmaps::painted(8, 8, [](int, int) { return 0U; }));
+    const QImage tab_1 = painted({});
+    EXPECT_EQ(tab_1.size(), QSize(1400, 900));
+    EXPECT_EQ(painted({"--tab", "1"}), tab_1);
+    EXPECT_NE(painted({"--tab", "5"}), tab_1);
+    const QStringList maps = {"--map1", "map.bmp", "--id-map", "map.bmp"};
+    EXPECT_NE(painted(maps + QStringList{"--mode", QString::fromUtf8("armées")}), painted(maps));
+    EXPECT_NE(painted(maps + QStringList{"--zoom", "8"}), painted(maps));
+    EXPECT_NE(painted(maps + QStringList{"--colour", "religion"}), painted(maps));
+    for (const char* option : {"--size", "--tab", "--mode", "--zoom", "--colour"}) {
+        EXPECT_EQ(run({option, "1"}), 2);
+        EXPECT_NE(errors.find("needs --screenshot"), std::string::npos) << errors;
+    }
+    EXPECT_FALSE(QFile::exists(folder.native("settings.ini")));
     EXPECT_EQ(run({"--screenshot", "absent/picture.png"}), 1);
     EXPECT_NE(errors.find("absent/picture.png"), std::string::npos);
 }
@@ -107,6 +137,34 @@ TEST_F(Program, ASystemWithoutADisplayIsToldSo) {
     EXPECT_EQ(run({}), 1);
     EXPECT_NE(errors.find("no display"), std::string::npos) << errors;
     EXPECT_EQ(run({"--screenshot", "picture.png"}), 0) << errors;
+}
+
+TEST_F(Program, WhatAPackageInstalledKeepsItsFilesInAFolderOfTheUsersOwn) {
+    const QString program = folder.native("bin/program");
+    folder.make_folder("bin");
+    ASSERT_TRUE(QFile::copy(QStringLiteral(PROGRAM), program));
+    QFile::rename(folder.native("english.lng"), folder.native("bin/english.lng"));
+    auto environment = process.processEnvironment();
+    environment.insert(QStringLiteral("XDG_DATA_HOME"), folder.native("data"));
+    process.setProcessEnvironment(environment);
+    const auto ends_with = [&](const QStringList& arguments) {
+        process.start(program, arguments);
+        EXPECT_TRUE(process.waitForFinished(20000));
+        return process.exitCode();
+    };
+    folder.write("a.csv", province_line("5", "\r\n"));
+    const QStringList save = {"--csv", "a.csv", "--save", "a.csv"};
+    EXPECT_EQ(ends_with(save), 0);
+    EXPECT_TRUE(folder.has("bin/backups")) << "a portable copy";
+    EXPECT_FALSE(folder.has("data"));
+    folder.write("bin/installed-by-package");
+    EXPECT_EQ(ends_with(save), 0);
+    EXPECT_TRUE(folder.has("data/Province Editor/backups"));
+    EXPECT_EQ(folder.read("data/Province Editor/english.lng"), folder.read("bin/english.lng"));
+    folder.write("data/Province Editor/english.lng", "\"TEXTE_locale\",\"en\"\r\n");
+    EXPECT_EQ(ends_with({"--screenshot", "picture.png"}), 0);
+    EXPECT_LT(folder.read("data/Province Editor/english.lng").size(), 50U)
+        << "the user's own is not written over";
 }
 
 #ifdef Q_OS_UNIX

@@ -116,6 +116,8 @@ constexpr IndexedArray<Text, TextInfo, text_count> texts = {{{
     {Text::menu_montrer, "menu_montrer", "Show the se&lection"},
     {Text::menu_colorer, "menu_colorer", "Colour &by"},
     {Text::menu_colorer_none, "menu_colorer_none", "&No colours"},
+    {Text::menu_fichiers_recents, "menu_fichiers_recents", "Recent province &files"},
+    {Text::menu_cartes_recentes, "menu_cartes_recentes", "Recen&t maps"},
     {Text::menu_recherche, "menu_recherche", "Searc&h"},
     {Text::menu_trouver, "menu_trouver", "&Find..."},
     {Text::menu_suivante, "menu_suivante", "&Next province without a position"},
@@ -123,6 +125,31 @@ constexpr IndexedArray<Text, TextInfo, text_count> texts = {{{
     {Text::menu_modifications, "menu_modifications", "C&hanges..."},
     {Text::menu_selection_precedente, "menu_selection_precedente", "&Previous selection"},
     {Text::menu_selection_suivante, "menu_selection_suivante", "N&ext selection"},
+    {Text::menu_guide, "menu_guide", "Guide"},
+    {Text::tip_ouvrir_cartes, "tip_ouvrir_cartes", "Map 1 and the ID map are needed, map 2 is not"},
+    {Text::tip_ouvrir_csv, "tip_ouvrir_csv", "Its values take the place of the present ones"},
+    {Text::tip_gfx, "tip_gfx", "The sprites and terrain drawings that the map shows"},
+    {Text::tip_reenregistrer, "tip_reenregistrer", "Where it was saved last, without asking"},
+    {Text::tip_enregister, "tip_enregister", "The folder and the name are chosen first"},
+    {Text::tip_recuperer, "tip_recuperer",
+     "Unsaved provinces that earlier runs left, and files that saves replaced"},
+    {Text::tip_carte_id, "tip_carte_id",
+     "The map whose colours are the identifiers of the provinces"},
+    {Text::tip_verifier, "tip_verifier",
+     "Lists what the game could not take: in the file, in the values, on the map"},
+    {Text::tip_modifications, "tip_modifications",
+     "Lists what differs from the file; each value can be put back"},
+    {Text::tip_normal, "tip_normal", "A click on the map selects a province, Ctrl+click adds one"},
+    {Text::tip_saisie, "tip_saisie", "A click on the map places what is chosen here"},
+    {Text::tip_serie, "tip_serie", "The map shows this set"},
+    {Text::tip_dessin_graph, "tip_dessin_graph",
+     "Shows the terrain drawings on the map, or hides them"},
+    {Text::tip_langue, "tip_langue", "Takes effect at the next start"},
+
+    // The empty workspace
+    {Text::invitation, "invitation", "To begin, %1 and %2, or drop the files here."},
+    {Text::invitation_maps, "invitation_maps", "open the maps (Ctrl+M)"},
+    {Text::invitation_file, "invitation_file", "open the province file (Ctrl+O)"},
 
     // The about box
     {Text::about_version, "about_version", "Version %1"},
@@ -276,6 +303,11 @@ constexpr IndexedArray<Text, TextInfo, text_count> texts = {{{
      "several"},
     {Text::invert_tip, "invert_tip",
      "Select all provinces that are not selected now, whatever the list holds"},
+    // The guide
+    {Text::guide_caption, "guide_caption", "Guide to the Province Editor"},
+    {Text::guide_headings, "guide_headings", "Headings of the guide"},
+    {Text::guide_missing, "guide_missing",
+     "The guide is missing: a folder docs with the file guide.md was expected beside the program."},
 
     // The check
     {Text::controle_caption, "controle_caption", "Check of the provinces"},

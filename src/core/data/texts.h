@@ -100,6 +100,8 @@ enum class Text {
     menu_montrer,
     menu_colorer,
     menu_colorer_none,
+    menu_fichiers_recents,
+    menu_cartes_recentes,
     menu_recherche,
     menu_trouver,
     menu_suivante,
@@ -107,6 +109,26 @@ enum class Text {
     menu_modifications,
     menu_selection_precedente,
     menu_selection_suivante,
+    menu_guide,
+    tip_ouvrir_cartes,
+    tip_ouvrir_csv,
+    tip_gfx,
+    tip_reenregistrer,
+    tip_enregister,
+    tip_recuperer,
+    tip_carte_id,
+    tip_verifier,
+    tip_modifications,
+    tip_normal,
+    tip_saisie,
+    tip_serie,
+    tip_dessin_graph,
+    tip_langue,
+
+    // The empty workspace
+    invitation,
+    invitation_maps,
+    invitation_file,
 
     // The about box
     about_version,
@@ -229,6 +251,10 @@ enum class Text {
     remove_tip,
     keep_tip,
     invert_tip,
+    // The guide
+    guide_caption,
+    guide_headings,
+    guide_missing,
 
     // The check
     controle_caption,

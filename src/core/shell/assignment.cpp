@@ -41,21 +41,26 @@ std::vector<FileColumn> columns_named(std::string_view name) {
 
 } // namespace
 
+FileColumn read_column(std::string_view name) {
+    const auto columns = columns_named(name);
+    if (columns.empty())
+        refuse(name, "is neither a column's number from 2 to 56 nor a column's header");
+    if (columns.size() > 1)
+        refuse(name, "is the header of several columns, use the number of one");
+    return columns.front();
+}
+
 Assignment read_assignment(std::string_view text) {
     const auto equals = text.find('=');
     if (equals == std::string_view::npos)
         refuse(text, "is not COLUMN=VALUE");
     const auto name = text.substr(0, equals);
     const auto value = text.substr(equals + 1);
-    const auto columns = columns_named(name);
-    if (columns.empty())
-        refuse(name, "is neither a column's number from 2 to 56 nor a column's header");
-    if (columns.size() > 1)
-        refuse(name, "is the header of several columns, use the number of one");
+    const auto column = read_column(name);
     constexpr std::string_view breaks_line(";\r\n\0", 4);
     if (value.find_first_of(breaks_line) != std::string_view::npos)
         refuse(name, "cannot hold a value with a semicolon, a line end or a NUL byte");
-    return {columns.front(), std::string(value)};
+    return {column, std::string(value)};
 }
 
 void assign(data::ProvinceTable& table, const editor::Selection& selection,

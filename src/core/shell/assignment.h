@@ -14,9 +14,13 @@ struct Assignment {
     std::string value;
 };
 
-/// Reads "COLUMN=VALUE": a column's number from 2 to 56, or its header, letter case and the blanks
-/// around it aside. Throws std::invalid_argument with what is wrong: an unknown column, a header
-/// that several columns have, a value that would break its line.
+/// Returns the column that is named by its number from 2 to 56, or by its header, letter case and
+/// the blanks around it aside. Throws std::invalid_argument with what is wrong: an unknown column,
+/// a header that several columns have.
+data::FileColumn read_column(std::string_view name);
+
+/// Reads "COLUMN=VALUE". Throws what read_column() throws, and std::invalid_argument for a value
+/// that would break its line.
 Assignment read_assignment(std::string_view text);
 
 /// Writes the value into that one cell of every selected province.

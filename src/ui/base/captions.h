@@ -32,6 +32,16 @@ inline QString own_text(const shell::LanguageTexts& language, shell::Text text,
     return caption_text(language.text(text, {to_bytes(value), to_bytes(second_value)}));
 }
 
+/// Returns the text of an item that is named by something from outside, such as a file: it is
+/// shown as it is, without a letter or a shortcut of its own.
+inline QString item_text(QString name) {
+    for (QChar& character : name) {
+        if (character < QLatin1Char(' '))
+            character = QLatin1Char(' ');
+    }
+    return name.replace('&', QStringLiteral("&&"));
+}
+
 /// Returns what a caption names: without the mark of its shortcut and the dots that announce a
 /// dialog.
 inline QString without_marks(QString caption) {

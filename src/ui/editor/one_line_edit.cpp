@@ -8,7 +8,9 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QRegularExpression>
+#include <QUrl>
 
+#include <algorithm>
 #include <limits>
 
 namespace editor {
@@ -62,6 +64,14 @@ void OneLineEdit::contextMenuEvent(QContextMenuEvent* event) {
         connect(action, &QAction::triggered, this, &OneLineEdit::paste_line);
     }
     menu->popup(event->globalPos());
+}
+
+void OneLineEdit::dragEnterEvent(QDragEnterEvent* event) {
+    const auto urls = event->mimeData()->urls();
+    if (std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); }))
+        event->ignore();
+    else
+        QLineEdit::dragEnterEvent(event);
 }
 
 void OneLineEdit::dropEvent(QDropEvent* event) {

@@ -5,8 +5,8 @@
 namespace editor {
 
 /// A text field into which no line end comes from outside: at the ends of a pasted or dropped text
-/// they are left out, in its middle each becomes a blank. Enter that repeats by being held does
-/// nothing.
+/// they are left out, in its middle each becomes a blank. Dragged files are not for it but for the
+/// window. Enter that repeats by being held does nothing.
 class OneLineEdit : public QLineEdit {
     Q_OBJECT
 
@@ -17,6 +17,7 @@ class OneLineEdit : public QLineEdit {
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
 

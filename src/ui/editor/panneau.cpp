@@ -48,6 +48,14 @@ QSize Panneau::sizeHint() const {
     return {minimumSizeHint().width(), QWidget::sizeHint().height()};
 }
 
+int Panneau::page() const {
+    return pages_->page();
+}
+
+void Panneau::show_page(int page) {
+    pages_->show_page(page);
+}
+
 QWidget* Panneau::build_selection_row() {
     auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);

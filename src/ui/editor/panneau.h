@@ -48,6 +48,11 @@ class Panneau : public QWidget {
     /// Returns what the panel calls the field; empty for one that it does not show.
     const QString& field_name(data::FieldNumber field) const { return bound_[field].name; }
 
+    /// Returns the page of the panel that is open, counted from 0.
+    int page() const;
+    /// Opens the page; a number that no page has does nothing.
+    void show_page(int page);
+
     /// Shows the selected provinces' values in all controls.
     void show_selection();
 

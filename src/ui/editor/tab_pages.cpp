@@ -50,6 +50,14 @@ void TabPages::fit_to_captions() {
     fit_width(std::numeric_limits<int>::max());
 }
 
+int TabPages::page() const {
+    return stack_->currentIndex();
+}
+
+void TabPages::show_page(int page) {
+    strip_->setCurrentIndex(page);
+}
+
 int TabPages::page_of(const QWidget& control) const {
     const auto found = std::find_if(pages_.begin(), pages_.end(), [&](const QScrollArea* page) {
         return page->isAncestorOf(&control);

@@ -24,6 +24,11 @@ class TabPages : public QWidget {
     /// Aligns the controls and takes the width that they need now that all captions stand.
     void fit_to_captions();
 
+    /// Returns the open page, counted from 0.
+    int page() const;
+    /// Opens the page; a number that no page has does nothing.
+    void show_page(int page);
+
     /// Opens the control's page and gives it the focus back.
     void return_to(QWidget& control);
 

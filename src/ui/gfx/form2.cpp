@@ -44,7 +44,7 @@ QString bare(QString path) {
 
 } // namespace
 
-Form2::Form2(shell::Session& session, QWidget* owner)
+Form2::Form2(shell::Session& session, const map::Maps& proposed, QWidget* owner)
     : QDialog(owner),
       session_(session),
       x_offset_(new QLineEdit(this)),
@@ -54,7 +54,7 @@ Form2::Form2(shell::Session& session, QWidget* owner)
     setWindowTitle(QApplication::applicationDisplayName());
     lay_out();
     apply_captions();
-    show_present_values();
+    show_values(proposed);
     connect(confirm_, &QPushButton::clicked, this, &Form2::confirm);
 }
 
@@ -134,8 +134,7 @@ void Form2::apply_captions() {
     apply(confirm_, "OK");
 }
 
-void Form2::show_present_values() {
-    const map::Maps& maps = session_.maps;
+void Form2::show_values(const map::Maps& maps) {
     path_field(0)->setText(base::path_text(maps.map_1_path));
     path_field(1)->setText(base::path_text(maps.map_2_path));
     path_field(2)->setText(base::path_text(maps.id_map_path));

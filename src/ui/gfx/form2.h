@@ -9,6 +9,10 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 
+namespace map {
+struct Maps;
+}
+
 namespace shell {
 struct Session;
 }
@@ -21,7 +25,8 @@ class Form2 : public QDialog {
     Q_OBJECT
 
   public:
-    Form2(shell::Session& session, QWidget* owner);
+    /// Opens with the proposed values in its fields.
+    Form2(shell::Session& session, const map::Maps& proposed, QWidget* owner);
 
   public slots:
     void done(int result) override;
@@ -31,7 +36,7 @@ class Form2 : public QDialog {
 
     void lay_out();
     void apply_captions();
-    void show_present_values();
+    void show_values(const map::Maps& maps);
     void browse(int index);
     void confirm();
     QString path_in(int index) const;

@@ -10,7 +10,9 @@
 #include "shell/backups.h"
 #include "shell/file_check.h"
 #include "shell/place_check.h"
+#include "shell/program_folder.h"
 #include "shell/read_report.h"
+#include "shell/session.h"
 #include "shell/start_up.h"
 #include "shell/table_comparison.h"
 #include "shell/value_check.h"
@@ -130,6 +132,7 @@ bool print_differences(const Session& session, const std::string& path) {
 }
 
 int obey(const CommandLine& line, Session& session) {
+    session.program_folder = program_folder(line.folder);
     if (line.check)
         start_up(session, SpriteSets::pass_over); // the value lists are the language file's
     const std::string bytes = base::read_file(*line.csv);
@@ -157,7 +160,8 @@ int obey(const CommandLine& line, Session& session) {
 
 } // namespace
 
-int batch_run(const CommandLine& line, Session& session) {
+int batch_run(const CommandLine& line) {
+    Session session;
     try {
         return obey(line, session);
     } catch (const std::exception& error) {

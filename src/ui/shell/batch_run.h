@@ -1,7 +1,6 @@
 #pragma once
 
 #include "shell/command_line.h"
-#include "shell/session.h"
 
 namespace shell {
 
@@ -10,6 +9,6 @@ namespace shell {
 /// standard output. Returns the exit status: 0 where they found nothing but hints, 1 where they
 /// found problems or differences, 3 for a file that cannot be read or written, with the reason on
 /// standard error.
-int batch_run(const CommandLine& line, Session& session);
+int batch_run(const CommandLine& line);
 
 } // namespace shell

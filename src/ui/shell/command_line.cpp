@@ -4,7 +4,9 @@
 #include "base/stored_path.h"
 #include "data/numbers.h"
 #include "data/run_time_error.h"
+#include "editor/panel_layout.h"
 #include "editor/selection.h"
+#include "map/field_colours.h"
 
 #include <QCommandLineParser>
 
@@ -31,6 +33,19 @@ constexpr Option id_map{"id-map", "FILE", "bitmap whose colours are province ide
 constexpr Option offset{"offset", "X,Y", "where the maps lie in the game's coordinates, in pixels"};
 constexpr Option select_option{"select", "TEXT", "provinces to select, such as 12;15;20-25"};
 constexpr Option screenshot{"screenshot", "FILE", "paint the main frame into a PNG file and end"};
+constexpr Option picture_size{"size", "WIDTHxHEIGHT",
+                              "size of the frame in the picture, in pixels"};
+constexpr Option picture_tab{"tab", "N", "tab of the panel that is open in the picture, 1 to 5"};
+constexpr Option picture_mode{
+    "mode", "KIND",
+    "mode of the map in the picture: normal, ville, armees, port, manuf or "
+    "dessin"};
+constexpr Option picture_zoom{"zoom", "LEVEL",
+                              "how large the map is in the picture: 1/32 to 8 times, in powers of "
+                              "two"};
+constexpr Option picture_colour{"colour", "FIELD",
+                                "colour the map in the picture by a column's values (its number or "
+                                "its header)"};
 constexpr Option set{"set", "COLUMN=VALUE",
                      "write a value into a column (2 to 56, or its header) of the selected "
                      "provinces; may be repeated"};
@@ -40,10 +55,15 @@ constexpr Option diff{"diff", "FILE",
                       "print in what --csv differs from FILE, the earlier one, without a window"};
 constexpr Option help{"help", nullptr, "show this text and end"};
 constexpr Option version{"version", nullptr, "show the version and end"};
-constexpr std::array options = {&folder, &csv,           &map_1, &map_2,  &id_map,
-                                &offset, &select_option, &set,   &save,   &check,
-                                &diff,   &screenshot,    &help,  &version};
+constexpr std::array options = {&folder,         &csv,         &map_1,         &map_2,
+                                &id_map,         &offset,      &select_option, &set,
+                                &save,           &check,       &diff,          &screenshot,
+                                &picture_size,   &picture_tab, &picture_mode,  &picture_zoom,
+                                &picture_colour, &help,        &version};
 constexpr std::array without_window = {&save, &check, &diff};
+constexpr std::array of_the_picture = {&picture_size, &picture_tab, &picture_mode, &picture_zoom,
+                                       &picture_colour};
+constexpr std::array of_the_map = {&picture_mode, &picture_zoom, &picture_colour};
 
 class Arguments {
   public:
@@ -79,6 +99,95 @@ class Arguments {
   private:
     QCommandLineParser parser_;
 };
+
+struct ModeName {
+    const char* name;
+    map::Mode mode;
+};
+constexpr std::array mode_names = {
+    ModeName{"normal", map::Mode::normal}, ModeName{"ville", map::Mode::ville},
+    ModeName{"armees", map::Mode::armees}, ModeName{"armées", map::Mode::armees},
+    ModeName{"port", map::Mode::port},     ModeName{"manuf", map::Mode::manuf},
+    ModeName{"dessin", map::Mode::dessin},
+};
+
+QSize read_size(const QString& text) {
+    constexpr int most = 16384; // pixels; a picture of that takes a gigabyte
+    const auto sides = text.split('x');
+    if (sides.size() == 2) {
+        const QSize size(sides[0].toInt(), sides[1].toInt());
+        if (!size.isEmpty() && size.width() <= most && size.height() <= most)
+            return size;
+    }
+    throw std::invalid_argument("--size needs WIDTHxHEIGHT, such as 1280x720");
+}
+
+int read_page(const QString& text) {
+    const int number = text.toInt();
+    if (number < 1 || number > static_cast<int>(editor::tabs.size()))
+        throw std::invalid_argument("--tab needs a number from 1 to " +
+                                    std::to_string(editor::tabs.size()));
+    return number - 1;
+}
+
+map::Mode read_mode(const QString& text) {
+    const auto* found =
+        std::find_if(mode_names.begin(), mode_names.end(),
+                     [&](const ModeName& each) { return text == QString::fromUtf8(each.name); });
+    if (found == mode_names.end())
+        throw std::invalid_argument(
+            "--mode needs one of normal, ville, armees, port, manuf, dessin");
+    return found->mode;
+}
+
+map::ZoomLevel read_level(const QString& text) {
+    for (int power = map::ZoomLevel::smallest; power <= map::ZoomLevel::largest; ++power) {
+        const map::ZoomLevel level(power);
+        const QString name = power < 0 ? QStringLiteral("1/%1").arg(level.step())
+                                       : QString::number(level.enlargement());
+        if (text == name)
+            return level;
+    }
+    throw std::invalid_argument("--zoom needs one of 1/32, 1/16, 1/8, 1/4, 1/2, 1, 2, 4, 8");
+}
+
+data::FieldNumber read_colour(const QString& text) {
+    const auto field = data::field_number(read_column(base::to_bytes(text)));
+    if (std::find(map::coloured_fields.begin(), map::coloured_fields.end(), field) ==
+        map::coloured_fields.end())
+        throw std::invalid_argument("--colour: the map is not coloured by \"" +
+                                    base::to_bytes(text) + "\"");
+    return field;
+}
+
+/// Reads what the picture is to show. Throws std::invalid_argument with what is wrong.
+std::optional<Screenshot> read_screenshot(const Arguments& given) {
+    if (!given.has(screenshot)) {
+        for (const Option* option : of_the_picture) {
+            if (given.has(*option))
+                throw std::invalid_argument("--" + std::string(option->name) +
+                                            " needs --screenshot");
+        }
+        return {};
+    }
+    Screenshot picture;
+    picture.file = given.value(screenshot);
+    if (given.has(picture_size))
+        picture.size = read_size(given.value(picture_size));
+    if (given.has(picture_tab))
+        picture.page = read_page(given.value(picture_tab));
+    if (given.has(picture_mode))
+        picture.mode = read_mode(given.value(picture_mode));
+    if (given.has(picture_zoom))
+        picture.level = read_level(given.value(picture_zoom));
+    if (given.has(picture_colour))
+        picture.colour = read_colour(given.value(picture_colour));
+    for (const Option* option : of_the_map) {
+        if (given.has(*option) && !given.has(map_1))
+            throw std::invalid_argument("--" + std::string(option->name) + " needs the maps");
+    }
+    return picture;
+}
 
 /// Reads "X,Y" as the map files dialog reads its two fields.
 void read_offset(const QString& text, map::Maps& maps) {
@@ -159,8 +268,11 @@ std::variant<CommandLine, PrintAndEnd> read_command_line(const QStringList& argu
     line.csv_as_given = given.value(csv);
     if (given.has(select_option))
         line.select = base::to_bytes(given.value(select_option));
-    if (given.has(screenshot))
-        line.screenshot = given.value(screenshot);
+    try {
+        line.screenshot = read_screenshot(given);
+    } catch (const std::invalid_argument& error) {
+        return given.wrong_use(base::to_qstring(error.what()) + '.');
+    }
     if (const QString wrong = read_unattended(given, line); !wrong.isEmpty())
         return given.wrong_use(wrong);
 

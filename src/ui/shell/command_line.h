@@ -1,8 +1,11 @@
 #pragma once
 
 #include "map/maps.h"
+#include "map/mode.h"
+#include "map/zoom_level.h"
 #include "shell/assignment.h"
 
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -14,6 +17,16 @@
 
 namespace shell {
 
+/// The picture of the main frame that a run paints.
+struct Screenshot {
+    QString file;              // native path
+    std::optional<QSize> size; // of the frame, in pixels
+    std::optional<int> page;   // of the panel, counted from 0
+    std::optional<map::Mode> mode;
+    std::optional<map::ZoomLevel> level;
+    std::optional<data::FieldNumber> colour; // by this field
+};
+
 /// What the command line asks for. Paths are stored paths, texts Windows-1252 bytes.
 struct CommandLine {
     std::optional<std::string> folder;
@@ -22,7 +35,7 @@ struct CommandLine {
     std::optional<map::Maps> maps;
     std::optional<std::string> select;
     std::vector<Assignment> assignments; // into the selected provinces
-    std::optional<QString> screenshot;   // native path
+    std::optional<Screenshot> screenshot;
 
     // What is done without a window.
     std::optional<std::string> save;

@@ -39,13 +39,16 @@ constexpr std::array position_items = {"ville_menu", "armées_menu", "manuf_menu
 } // namespace
 
 MDIForm1::MDIForm1(Session& session, RecoveryCopies& copies, Run run)
-    : session_(session), copies_(copies) {
+    : session_(session), copies_(copies), settings_(session) {
     setObjectName(QStringLiteral("MDIForm1"));
     setWindowTitle(QApplication::applicationDisplayName());
     resize(first_size);
+    setAcceptDrops(true);
     build_menus();
     fill_language_menu();
+    connect(action("fichier")->menu(), &QMenu::aboutToShow, this, &MDIForm1::fill_recent_menus);
     build_workspace();
+    build_invitation();
     build_status_bar();
     build_colours();
     set_up_items(run);
@@ -72,6 +75,7 @@ void MDIForm1::build_menus() {
         } else {
             auto* menu = new QMenu(caption, this);
             menu->setObjectName(name);
+            menu->setToolTipsVisible(true);
             made = menu->menuAction();
         }
         made->setObjectName(name);
@@ -81,6 +85,8 @@ void MDIForm1::build_menus() {
             made->setShortcuts(QKeySequence::listFromString(base::from_utf8(item.shortcuts)));
         made->setShortcutContext(Qt::ApplicationShortcut); // in the dialogs one works beside, too
         made->setCheckable(item.checkable);
+        if (const auto tip = menu_tip(item.name))
+            made->setToolTip(base::own_text(session_.language, *tip));
         if (parent)
             parent->addAction(made);
         else
@@ -99,10 +105,9 @@ void MDIForm1::fill_language_menu() {
             break;
         const auto item = static_cast<int>(languages_.size());
         languages_ += file.left(dot);
-        QString caption = languages_.last();
-        auto* made =
-            action("langue")->menu()->addAction(caption.replace('&', QStringLiteral("&&")));
+        auto* made = action("langue")->menu()->addAction(base::item_text(languages_.last()));
         made->setObjectName(QStringLiteral("langues(%1)").arg(item));
+        made->setToolTip(base::own_text(session_.language, Text::tip_langue));
         made->setCheckable(true);
         const bool in_use = file.compare(base::to_qstring(session_.configuration.language_file),
                                          Qt::CaseInsensitive) == 0;

@@ -12,6 +12,7 @@
 #include "shell/assignment.h"
 #include "shell/problem.h"
 #include "shell/session.h"
+#include "shell/settings.h"
 #include "shell/start_up.h"
 
 #include <QMainWindow>
@@ -37,11 +38,13 @@ namespace shell {
 
 class Coloriage;
 class Form_controle;
+class Form_guide;
 class Form_modifications;
 class Form_recherche;
 class Etat;
 class Notice;
 class RecoveryCopies;
+struct DroppedFiles;
 
 /// The main frame: menus, the workspace of the map window, the panel and the status bar. Its
 /// closing is the program's shutdown.
@@ -84,7 +87,18 @@ class MDIForm1 : public QMainWindow {
     void modifications();
     void selection_precedente();
     void selection_suivante();
+    void guide();
     void propos();
+
+    /// Shows the frame where and as the last run left it, and tells of recovery copies that are new
+    /// since then.
+    void show_as_left();
+
+    /// Shows the map so large, where there is one.
+    void zoom_to(map::ZoomLevel level);
+
+    /// Opens a page of the panel, counted from 0.
+    void show_page(int page);
 
     // What the commands do once their dialogs are confirmed.
     /// Reads the province file with the stored path, and remembers it where config.txt can.
@@ -110,12 +124,17 @@ class MDIForm1 : public QMainWindow {
   protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void build_menus();
     void fill_language_menu();
     void build_workspace();
+    void build_invitation();
+    /// Shows what to do first as long as the workspace is empty and nothing was read.
+    void show_invitation();
     void build_status_bar();
     void build_colours();
     void set_up_items(Run run);
@@ -149,6 +168,20 @@ class MDIForm1 : public QMainWindow {
     /// Enables the items that need a selection or a position mode, and maps.
     void enable_place_items();
 
+    void tell_of_new_copies();
+    void fill_recent_menus();
+    void open_recent_file(const std::string& path);
+    void open_recent_maps(const map::Maps& maps);
+    /// Shows the error of a file that cannot be opened, and returns whether it can.
+    bool can_be_read(const std::string& path);
+
+    /// Opens the map files dialog with these values in its fields.
+    void ask_for_maps(const map::Maps& proposed);
+    void open_dropped_maps(const DroppedFiles& files);
+
+    /// Asks whether the values of a file may take the place of the present ones.
+    bool may_replace_values();
+    void open_after_question(const std::string& path);
     void save_to(const std::string& path);
     /// Keeps what is unsaved before something else is read over it; false when that failed.
     bool keep_unsaved();
@@ -168,6 +201,7 @@ class MDIForm1 : public QMainWindow {
 
     Session& session_;
     RecoveryCopies& copies_;
+    Settings settings_;
     std::string saved_to_;               // stored path; empty before the first save
     base::WatchedFile watched_;          // the province file
     std::vector<Problem> file_problems_; // of the file that was read, until a save replaces it
@@ -175,10 +209,12 @@ class MDIForm1 : public QMainWindow {
     QPointer<Form_modifications> modifications_;
     QPointer<Form_recherche> recherche_;
     editor::SelectionHistory history_;
+    QPointer<Form_guide> guide_;
     std::map<std::string_view, QAction*> actions_; // by their names in the menus' table
     QStringList languages_;                        // file names without ".lng", in the menu's order
     editor::Panneau* panel_ = nullptr;
     QMdiArea* workspace_ = nullptr;
+    QLabel* invitation_ = nullptr;
     QPointer<QMdiSubWindow> map_frame_;
     QPointer<map::Form1> map_;
     QRect fitted_; // where the map window was put last; its frame's place in the workspace

@@ -1,6 +1,6 @@
+#include "base/captions.h"
 #include "base/messages.h"
 #include "base/qt_text.h"
-#include "base/shown_text.h"
 #include "base/stored_path.h"
 #include "data/run_time_error.h"
 #include "editor/combined_selection.h"
@@ -50,15 +50,15 @@ int first_set(const std::vector<gfx::Sprite>& rows) {
     return found == rows.end() ? 0 : static_cast<int>(found - rows.begin());
 }
 
-QString escaped(const std::string& set_name) {
-    return base::caption_text(set_name).replace(QLatin1Char('&'), QStringLiteral("&&"));
-}
-
 } // namespace
 
 void MDIForm1::ouvrir_cartes() {
+    ask_for_maps(session_.maps);
+}
+
+void MDIForm1::ask_for_maps(const map::Maps& proposed) {
     session_.cancelled_flag = 0;
-    gfx::Form2(session_, this).exec();
+    gfx::Form2(session_, proposed, this).exec();
     if (session_.cancelled_flag == 0)
         open_maps();
 }
@@ -130,7 +130,8 @@ void MDIForm1::options() {
             const std::string name = item_name(menu.items, item);
             const auto& set_name = rows.at(static_cast<std::size_t>(item - 1)).set_name;
             auto* entry = action(name);
-            entry->setText(set_name.empty() ? entry->data().toString() : escaped(set_name));
+            entry->setText(set_name.empty() ? entry->data().toString()
+                                            : base::item_text(base::caption_text(set_name)));
             entry->setEnabled(!set_name.empty());
             entry->setChecked(previewed == item - 1);
         }

@@ -1,5 +1,7 @@
+#include "base/messages.h"
 #include "editor/panneau.h"
 #include "shell/form_controle.h"
+#include "shell/form_guide.h"
 #include "shell/form_modifications.h"
 #include "shell/form_recherche.h"
 #include "shell/mdi_form1.h"
@@ -61,6 +63,15 @@ void MDIForm1::verifier() {
         return form;
     });
     controle_->refresh();
+}
+
+void MDIForm1::guide() {
+    const QString file = guide_file(session_.language);
+    if (file.isEmpty()) {
+        base::show_message(session_, this, session_.language.text(Text::guide_missing));
+        return;
+    }
+    show_beside(guide_, [&] { return new Form_guide(session_.language, file, this); });
 }
 
 std::vector<Problem> MDIForm1::problems() const {

@@ -43,14 +43,23 @@ std::string what_reading_lost(const std::string& path, std::string_view bytes,
 
 } // namespace
 
+bool MDIForm1::may_replace_values() {
+    return base::ask(session_, this, session_.language.message(data::Message::open_question),
+                     base::DefaultAnswer::no);
+}
+
 void MDIForm1::ouvrir_csv() {
-    if (!base::ask(session_, this, session_.language.message(data::Message::open_question),
-                   base::DefaultAnswer::no))
+    if (!may_replace_values())
         return;
     session_.chooser_kind = gfx::ChooserKind::CSV;
     gfx::Form4(session_, this).exec();
     if (session_.cancelled_flag == 0 && keep_unsaved())
         open_province_file(session_.configuration.province_file_path);
+}
+
+void MDIForm1::open_after_question(const std::string& path) {
+    if (may_replace_values() && keep_unsaved())
+        open_province_file(path);
 }
 
 data::ReadReport MDIForm1::open_province_file(const std::string& path) {
@@ -62,6 +71,8 @@ data::ReadReport MDIForm1::open_province_file(const std::string& path) {
     try {
         const auto read = data::read_provinces(bytes, session_.provinces);
         watched_.watch(path);
+        settings_.add_file(path);
+        show_invitation();
         file_problems_ = check_file(bytes).problems;
         notice_->keep(base::message_text(what_reading_lost(path, bytes, read, session_.language)));
         return read;
@@ -97,6 +108,7 @@ void MDIForm1::save_to(const std::string& path) {
     copies_.remove_own();
     saved_to_ = path;
     watched_.watch(path);
+    settings_.add_file(path);
     file_problems_.clear(); // the file is the program's own now
     notice_->keep({});
     tell(base::message_text(notice));
@@ -133,6 +145,7 @@ void MDIForm1::open_copy(const std::string& path) {
 }
 
 void MDIForm1::table_changed() {
+    show_invitation();
     panel_->show_selection();
     if (map_)
         map_->clear_graphique();
@@ -157,6 +170,7 @@ void MDIForm1::closeEvent(QCloseEvent* event) {
         enregister();
     base::replace_file(base::in_folder(session_.program_folder, configuration_file),
                        write_configuration(session_.configuration, session_.graphics.files));
+    settings_.keep_window(saveGeometry(), panel_->page());
     copies_.update();
     if (!copies_.own().empty())
         std::cerr << base::message_text(session_.language.text(Text::recovery_copy_written,

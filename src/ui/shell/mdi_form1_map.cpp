@@ -62,6 +62,8 @@ void MDIForm1::enable_zoom_items(map::ZoomLevel level) {
 void MDIForm1::open_maps() {
     make_map_window();
     enable_map_items(true);
+    settings_.add_maps(session_.maps);
+    show_invitation();
     show_status_text(map::info(map::Mode::normal).status_text);
 }
 
@@ -135,9 +137,13 @@ void MDIForm1::zoom_by(int steps) {
         map->view().set_level(map::ZoomLevel(map->view().level().power() + steps));
 }
 
-void MDIForm1::zoom_1() {
+void MDIForm1::zoom_to(map::ZoomLevel level) {
     if (auto* map = map_window())
-        map->view().set_level({});
+        map->view().set_level(level);
+}
+
+void MDIForm1::zoom_1() {
+    zoom_to({});
 }
 
 void MDIForm1::zoom_tout() {

@@ -2,6 +2,7 @@
 
 #include "shell/mdi_form1.h"
 
+#include <algorithm>
 #include <array>
 
 namespace shell {
@@ -48,6 +49,10 @@ constexpr std::array items = {
              "Ctrl+Shift+S"},
     MenuItem{"fichier", "récupérer", "", run<&MDIForm1::recuperer>, "", false, false,
              Text::menu_recuperer},
+    MenuItem{"fichier", "fichiers_récents", "", nullptr, "", false, after_separator,
+             Text::menu_fichiers_recents},
+    MenuItem{"fichier", "cartes_récentes", "", nullptr, "", false, false,
+             Text::menu_cartes_recentes},
     MenuItem{"fichier", "quitter", "&Quitter", run<&MDIForm1::quitter>, "Ctrl+Q", false,
              after_separator},
 
@@ -118,10 +123,48 @@ constexpr std::array items = {
              checkable, after_separator},
 
     MenuItem{"", "langue", "&Langue"},
+    MenuItem{"", "guide", "", run<&MDIForm1::guide>, "F1", false, false, Text::menu_guide},
     MenuItem{"", "propos", "À &propos...", run<&MDIForm1::propos>},
 };
 
+struct MenuTip {
+    std::string_view name;
+    Text text;
+};
+
+constexpr std::array tips = {
+    MenuTip{"ouvrir_cartes", Text::tip_ouvrir_cartes},
+    MenuTip{"ouvrir_csv", Text::tip_ouvrir_csv},
+    MenuTip{"gfx", Text::tip_gfx},
+    MenuTip{"réenregistrer", Text::tip_reenregistrer},
+    MenuTip{"enregister", Text::tip_enregister},
+    MenuTip{"récupérer", Text::tip_recuperer},
+    MenuTip{"carte_id", Text::tip_carte_id},
+    MenuTip{"vérifier", Text::tip_verifier},
+    MenuTip{"modifications", Text::tip_modifications},
+    MenuTip{"normal", Text::tip_normal},
+    MenuTip{"saisie", Text::tip_saisie},
+    MenuTip{"ville_graph(1)", Text::tip_serie},
+    MenuTip{"ville_graph(2)", Text::tip_serie},
+    MenuTip{"ville_graph(3)", Text::tip_serie},
+    MenuTip{"armée_graph(1)", Text::tip_serie},
+    MenuTip{"armée_graph(2)", Text::tip_serie},
+    MenuTip{"armée_graph(3)", Text::tip_serie},
+    MenuTip{"armée_graph(4)", Text::tip_serie},
+    MenuTip{"manuf_graph(1)", Text::tip_serie},
+    MenuTip{"manuf_graph(2)", Text::tip_serie},
+    MenuTip{"port_graph(1)", Text::tip_serie},
+    MenuTip{"port_graph(2)", Text::tip_serie},
+    MenuTip{"dessin_graph", Text::tip_dessin_graph},
+};
+
 } // namespace
+
+std::optional<Text> menu_tip(std::string_view name) {
+    const auto* found = std::find_if(tips.begin(), tips.end(),
+                                     [&](const MenuTip& each) { return each.name == name; });
+    return found == tips.end() ? std::nullopt : std::optional(found->text);
+}
 
 std::span<const MenuItem> menu_items() {
     return items;

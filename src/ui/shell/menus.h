@@ -24,6 +24,10 @@ struct MenuItem {
     std::optional<Text> text = {}; // of an item whose caption is a text of our own
 };
 
+/// Returns what the caption of the item or menu does not say, as a tool tip; nothing where it says
+/// it all.
+std::optional<Text> menu_tip(std::string_view name);
+
 /// All menus and items in their order; a menu stands before its items.
 std::span<const MenuItem> menu_items();
 

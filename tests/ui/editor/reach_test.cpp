@@ -72,8 +72,10 @@ TEST_F(PanelReach, LettersOfCaptionsClashWithNoOthers) {
     for (const auto* language : {"english.lng", "french.lng"}) {
         start_in(language);
         std::multiset<QChar> everywhere;
-        for (const auto* menu : frame->menuBar()->actions())
-            everywhere.insert(letter_of(menu->text()));
+        for (const auto* menu : frame->menuBar()->actions()) {
+            if (menu->shortcut().isEmpty()) // else it has a key of its own
+                everywhere.insert(letter_of(menu->text()));
+        }
         const auto& strip = control<QTabBar>("TabStrip1");
         for (int tab = 0; tab < strip.count(); ++tab)
             everywhere.insert(letter_of(strip.tabText(tab)));

@@ -30,7 +30,7 @@ class Form2Test : public testing::Test {
     /// Runs a new dialog with the acts inside. Returns whether they closed it.
     bool run(const std::function<void(gfx::Form2&)>& act) {
         session.cancelled_flag = 0;
-        gfx::Form2 form(session, nullptr);
+        gfx::Form2 form(session, session.maps, nullptr);
         return driver::run(form, [&] { act(form); });
     }
 

@@ -38,7 +38,7 @@ TEST(Dialogs, AreReachedByKeyboardAndTellTheirPurpose) {
     shell::Session session;
     session.configuration.graphics_folder = "c:\\";
     session.chooser_kind = gfx::ChooserKind::CSV2;
-    gfx::Form2 maps(session, nullptr);
+    gfx::Form2 maps(session, session.maps, nullptr);
     EXPECT_EQ(walked(maps), "Text1(0) Command2(0) Text1(1) Command2(1) Text1(2) Command2(2) "
                             "Text3 Text4 Command1");
     gfx::Form3 graphics(session, nullptr);
