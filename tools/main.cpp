@@ -5,6 +5,7 @@
 #include <exception>
 #include <optional>
 #include <string_view>
+#include <system_error>
 
 namespace {
 
@@ -33,10 +34,17 @@ std::optional<sample::Size> to_size(std::string_view text) {
     return fits ? std::optional(size) : std::nullopt;
 }
 
+/// Returns the folder of this program, whatever link it was called by where the system tells.
+std::filesystem::path own_folder(const char* called_as) {
+    std::error_code failure;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", failure);
+    return (failure ? std::filesystem::absolute(called_as) : program).parent_path();
+}
+
 /// Returns what the command line asks for; nothing when it is wrong.
 std::optional<sample::Request> to_request(int argc, char** argv) {
     sample::Request request;
-    request.languages = std::filesystem::absolute(argv[0]).parent_path();
+    request.languages = own_folder(argv[0]);
     for (int index = 1; index < argc; ++index) {
         const std::string_view argument = argv[index];
         if (argument == "--size" && index + 1 < argc) {

@@ -7,10 +7,13 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QListWidget>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace shell {
 
@@ -20,7 +23,8 @@ constexpr QSize initial_size(1080, 700);
 constexpr int headings_width = 260; // pixels
 constexpr int widest_picture = 740; // pixels
 constexpr int text_margin = 16;     // pixels
-constexpr int deepest_heading = 2;
+constexpr int deepest_heading = 3;
+constexpr QSize room_for_the_frame(40, 60);
 
 /// Shows pictures in the width of the text.
 class Page : public QTextBrowser {
@@ -70,7 +74,7 @@ Form_guide::Form_guide(const LanguageTexts& language, const QString& file, QWidg
     row->addWidget(headings_);
     row->addWidget(text_, 1);
     text_->setFocus();
-    resize(initial_size);
+    resize(initial_size.boundedTo(screen()->availableSize() - room_for_the_frame));
 }
 
 void Form_guide::list_headings() {
@@ -78,7 +82,9 @@ void Form_guide::list_headings() {
         const int level = block.blockFormat().headingLevel();
         if (level < 1 || level > deepest_heading)
             continue;
-        auto* item = new QListWidgetItem(block.text(), headings_);
+        constexpr int indent = 3; // blanks for each level
+        const QString blanks(indent * std::max(level - 2, 0), ' ');
+        auto* item = new QListWidgetItem(blanks + block.text(), headings_);
         item->setData(Qt::UserRole, block.blockNumber());
         QFont font = item->font();
         font.setBold(level < deepest_heading);
