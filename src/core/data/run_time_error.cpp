@@ -31,7 +31,8 @@ Text words_of(ErrorNumber number) {
 }
 
 std::string text_of(ErrorNumber number, const Place& place, const Dictionary& dictionary) {
-    const Phrase heading(Text::error_heading, static_cast<int>(number), dictionary(words_of(number)));
+    const Phrase heading(Text::error_heading, static_cast<int>(number),
+                         dictionary(words_of(number)));
     return heading.in(dictionary) + '\n' + place.in(dictionary);
 }
 

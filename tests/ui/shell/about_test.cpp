@@ -11,10 +11,11 @@ TEST(AboutBox, NamesTitleAndVersion) {
         const char* language;
         const char* caption;
         const char* version = "Version " PROVINCE_EDITOR_VERSION;
-    } rows[] = {{"", " Province Editor"},
-                {"\"MENU_About\",\"x\"", " Province Editor"},
-                {"\"MENU_about\",\"x\"\r\n\"MENU_about\",\"About\"", "About Province Editor"},
-                {"\"TEXTE_about_version\",\"%1!\"", " Province Editor", PROVINCE_EDITOR_VERSION "!"}};
+    } rows[] = {
+        {"", " Province Editor"},
+        {"\"MENU_About\",\"x\"", " Province Editor"},
+        {"\"MENU_about\",\"x\"\r\n\"MENU_about\",\"About\"", "About Province Editor"},
+        {"\"TEXTE_about_version\",\"%1!\"", " Province Editor", PROVINCE_EDITOR_VERSION "!"}};
     for (const auto& row : rows) {
         shell::Session session;
         session.language = shell::LanguageTexts(row.language);
