@@ -14,6 +14,8 @@ std::vector<std::string> codes_of(const editor::Field& field, const LanguageText
         return {"1", "0"};
     if (field.display == editor::Display::coast)
         return {"coastal", "inland"};
+    if (field.list_prefix.empty()) // it holds numbers
+        return {};
     std::vector<std::string> codes;
     for (const auto& entry : language.list(field.list_prefix))
         codes.push_back(entry.code);

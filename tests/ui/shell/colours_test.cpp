@@ -95,4 +95,15 @@ TEST_F(Colours, TheMapShowsAFieldAndTheLegendSelects) {
     EXPECT_TRUE(action("colorer(0)").isChecked());
 }
 
+TEST_F(Colours, EveryFieldOfTheMenuColours) {
+    start();
+    open_maps("relief.bmp", "", "ids.bmp");
+    for (const auto field : map::coloured_fields) {
+        load(5, field.number, "7");
+        colour_by("colorer(" + std::to_string(field.number) + ")");
+        EXPECT_NE(seen(20), paper) << field.number;
+        EXPECT_GT(list().topLevelItemCount(), 0) << field.number;
+    }
+}
+
 } // namespace
