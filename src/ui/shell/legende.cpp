@@ -22,7 +22,9 @@ QIcon swatch(map::Pixel colour, int size) {
     QPainter painter(&pixmap);
     painter.setPen(Qt::black);
     painter.drawRect(pixmap.rect().adjusted(0, 0, -1, -1));
-    return pixmap;
+    QIcon icon(pixmap);
+    icon.addPixmap(pixmap, QIcon::Selected); // Qt would tint it, and it would be another colour
+    return icon;
 }
 
 } // namespace
