@@ -127,7 +127,8 @@ void MapView::drag_to(const QPoint& pointer) {
 // --- the level
 
 void MapView::set_level(ZoomLevel level) {
-    zoom(level, viewport()->rect().center());
+    const QRect surface(-corner(), surfaces_->size()); // a small map leaves some of the view empty
+    zoom(level, (viewport()->rect() & surface).center());
 }
 
 void MapView::show_whole_map() {
