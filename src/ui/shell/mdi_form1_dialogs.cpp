@@ -8,28 +8,46 @@
 #include "shell/place_check.h"
 #include "shell/value_check.h"
 
+#include <QScreen>
+
+#include <algorithm>
 #include <utility>
 
 namespace shell {
 
 namespace {
 
-/// Shows the dialog that one works beside, in front where it is there already.
+/// Makes the dialog that one works beside, unless it is there already.
 template <class Form, class Make>
-void show_beside(QPointer<Form>& form, Make make) {
-    if (!form) {
-        form = make();
-        form->setAttribute(Qt::WA_DeleteOnClose);
+void make_beside(QPointer<Form>& form, Make make) {
+    if (form)
+        return;
+    form = make();
+    form->setAttribute(Qt::WA_DeleteOnClose);
+}
+
+void bring_to_front(QWidget& form) {
+    form.show();
+    form.raise();
+    form.activateWindow();
+}
+
+/// Opens a new dialog in the frame's lower right corner, as far as the screen reaches: it shows
+/// provinces in the middle of the map.
+void bring_beside_map(QWidget& form, const QWidget& frame) {
+    if (!form.isVisible()) {
+        const QRect screen = frame.screen()->availableGeometry();
+        QRect place({}, form.size() + frame.frameGeometry().size() - frame.size());
+        place.moveBottomRight((frame.frameGeometry() & screen).bottomRight());
+        form.move(std::max(place.left(), screen.left()), std::max(place.top(), screen.top()));
     }
-    form->show();
-    form->raise();
-    form->activateWindow();
+    bring_to_front(form);
 }
 
 } // namespace
 
 void MDIForm1::modifications() {
-    show_beside(modifications_, [this] {
+    make_beside(modifications_, [this] {
         auto* form = new Form_modifications(session_, this);
         connect(form, &Form_modifications::province_chosen, this,
                 [this](int province) { select(std::to_string(province)); });
@@ -39,15 +57,17 @@ void MDIForm1::modifications() {
         return form;
     });
     modifications_->refresh();
+    bring_beside_map(*modifications_, *this);
 }
 
 void MDIForm1::trouver() {
     const auto field = panel_->focused_field(); // before the dialog takes the focus
-    show_beside(recherche_, [this] {
+    make_beside(recherche_, [this] {
         auto* form = new Form_recherche(session_, *panel_, this);
         connect(form, &Form_recherche::selection_wanted, this, &MDIForm1::select);
         return form;
     });
+    bring_beside_map(*recherche_, *this);
     if (field)
         recherche_->begin_with(editor::fields[*field]);
     else
@@ -55,7 +75,7 @@ void MDIForm1::trouver() {
 }
 
 void MDIForm1::verifier() {
-    show_beside(controle_, [this] {
+    make_beside(controle_, [this] {
         auto* form = new Form_controle(
             session_, [this] { return problems(); }, this);
         connect(form, &Form_controle::province_chosen, this,
@@ -63,6 +83,7 @@ void MDIForm1::verifier() {
         return form;
     });
     controle_->refresh();
+    bring_beside_map(*controle_, *this);
 }
 
 void MDIForm1::guide() {
@@ -71,7 +92,8 @@ void MDIForm1::guide() {
         base::show_message(session_, this, session_.language.text(Text::guide_missing));
         return;
     }
-    show_beside(guide_, [&] { return new Form_guide(session_.language, file, this); });
+    make_beside(guide_, [&] { return new Form_guide(session_.language, file, this); });
+    bring_to_front(*guide_);
 }
 
 std::vector<Problem> MDIForm1::problems() const {
