@@ -161,7 +161,7 @@ constexpr IndexedArray<Text, TextInfo, text_count> texts = {{{
     {Text::etat_one_selected, "etat_one_selected", "1 province selected"},
     {Text::etat_selected, "etat_selected", "%1 provinces selected"},
     {Text::etat_unsaved, "etat_unsaved", "unsaved changes"},
-    {Text::etat_lacking, "etat_lacking", "lacking: %1"},
+    {Text::etat_lacking, "etat_lacking", "%1 lacking"},
     {Text::notice_next_lacking, "notice_next_lacking", "To be placed: %1 %2"},
     {Text::notice_none_lacks, "notice_none_lacks",
      "No province on the map is left without this position"},

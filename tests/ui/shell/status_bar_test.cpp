@@ -49,11 +49,11 @@ TEST_F(StatusBar, TellsHowManyAreSelectedAndWhetherChangesAreUnsaved) {
     EXPECT_EQ(told("état"), "56 provinces selected");
 
     press_key(Qt::Key_F3);
-    EXPECT_EQ(told("état"), "lacking: 1, 56 provinces selected");
+    EXPECT_EQ(told("état"), "1 lacking, 56 provinces selected");
     QTest::mouseClick(&control<QWidget>("Picture1"), Qt::LeftButton, {}, {20, 30});
-    EXPECT_EQ(told("état"), "lacking: 0, 56 provinces selected, unsaved changes");
+    EXPECT_EQ(told("état"), "0 lacking, 56 provinces selected, unsaved changes");
     QTest::mouseClick(&control<QWidget>("Picture1"), Qt::RightButton, {}, {20, 30});
-    EXPECT_EQ(told("état"), "lacking: 1, 56 provinces selected, unsaved changes");
+    EXPECT_EQ(told("état"), "1 lacking, 56 provinces selected, unsaved changes");
     press_key(Qt::Key_F2);
     EXPECT_EQ(told("état"), "56 provinces selected, unsaved changes");
 }
