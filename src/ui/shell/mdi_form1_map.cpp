@@ -131,17 +131,17 @@ void MDIForm1::zoom_moins() {
 }
 
 void MDIForm1::zoom_by(int steps) {
-    if (auto* map = map_window())
+    if (auto* map = seen_map_window())
         map->view().set_level(map::ZoomLevel(map->view().level().power() + steps));
 }
 
 void MDIForm1::zoom_1() {
-    if (auto* map = map_window())
+    if (auto* map = seen_map_window())
         map->view().set_level({});
 }
 
 void MDIForm1::zoom_tout() {
-    if (auto* map = map_window())
+    if (auto* map = seen_map_window())
         map->view().show_whole_map();
 }
 
