@@ -18,13 +18,11 @@ Place Place::within(Phrase outer) const {
 }
 
 std::string Place::in(const Dictionary& dictionary) const {
-    const std::string reason = reason_.in(dictionary);
-    if (where_.empty())
-        return reason;
     std::string where;
-    for (auto phrase = where_.rbegin(); phrase != where_.rend(); ++phrase)
-        where += (where.empty() ? "" : ", ") + phrase->in(dictionary);
-    return Phrase(Text::place_reason, where, reason).in(dictionary);
+    for (const Phrase& phrase : where_)
+        where = phrase.in(dictionary) + (where.empty() ? "" : ", ") + where;
+    std::string reason = reason_.in(dictionary);
+    return where_.empty() ? reason : Phrase(Text::place_reason, where, reason).in(dictionary);
 }
 
 std::string Place::in_english() const {

@@ -24,6 +24,7 @@ class Phrase {
     /// What no language changes: a name, a path, the system's own words.
     Phrase(std::string plain) : values_{std::move(plain)} {}
 
+    /// Returns the words in the dictionary's language.
     std::string in(const Dictionary& dictionary) const;
 
   private:
@@ -42,6 +43,7 @@ class Place {
     /// Returns the same with `outer` written before.
     Place within(Phrase outer) const;
 
+    /// Returns where, and then what, in the dictionary's language; in English without one.
     std::string in(const Dictionary& dictionary) const;
     std::string in_english() const;
 
@@ -50,7 +52,7 @@ class Place {
     Phrase reason_;
 };
 
-/// The program's own words, for want of a language file.
+/// Returns the program's own words, for want of a language file.
 std::string_view english(Text text);
 
 } // namespace data

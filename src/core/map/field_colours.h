@@ -52,10 +52,10 @@ struct ColourClass {
         none,   // no value
         sea,    // whatever the value
     };
-    Kind kind;
+    Kind kind = Kind::none;
     std::string value;
     std::string highest;
-    Pixel colour; // of a range, its middle's
+    Pixel colour = no_pixel; // of a range, its middle's
     std::vector<int> provinces;
 };
 
