@@ -71,7 +71,7 @@ bool is_in_view(const ProvinceIndex& index, const editor::Selection& selection, 
         const auto inside = place ? common(place->box, view) : std::nullopt;
         if (!inside)
             continue;
-        if (*inside == place->box || contains(view, place->inner_x, place->inner_y))
+        if (contains(view, place->inner_x, place->inner_y))
             return true;
         doubtful = doubtful ? united(*doubtful, *inside) : *inside;
     }

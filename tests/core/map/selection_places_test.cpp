@@ -51,12 +51,14 @@ editor::Selection selected(std::string_view text) {
 }
 
 TEST(SelectionPlaces, AreThoseOfTheSelectedProvinces) {
-    const LetterMap letters({"A..BB", "ACCCB", "ZZZ.A"});
+    LetterMap letters({"A..BB", "ACCCB", "ZZZAA"});
     EXPECT_EQ(map::box_of(letters.index, selected("2;3")), (map::Box{1, 0, 4, 1}));
     EXPECT_EQ(map::box_of(letters.index, selected("3;40")), (map::Box{1, 1, 3, 1}));
     EXPECT_EQ(map::box_of(letters.index, selected("40")), std::nullopt);
     EXPECT_EQ(map::first_place(letters.index, selected("3;40")), letters.index.place(3));
     EXPECT_EQ(map::first_place(letters.index, selected("40")), nullptr);
+    const map::Box view{3, 1, 3, 2}; // in both boxes, with a pixel of the first one
+    EXPECT_TRUE(map::is_in_view(letters.index, selected("1;2"), view, 1, letters.reader()));
 }
 
 TEST(SelectionPlaces, InViewIsWhatHasAPixelThere) {
