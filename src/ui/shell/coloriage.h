@@ -38,8 +38,11 @@ class Coloriage : public QObject {
     void look();
 
   signals:
-    void changed(); ///< There are other colours, or none any more.
+    /// There are other colours, or none any more.
+    void changed();
+    /// The map is not coloured any more.
     void ended();
+    /// These provinces were chosen in the legend.
     void chosen(const std::vector<int>& provinces);
 
   private:

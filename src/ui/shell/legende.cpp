@@ -51,21 +51,24 @@ Legende::Legende(const Session& session, QWidget* owner)
 
 void Legende::show_classes(const editor::Field& field, const QString& name,
                            std::span<const map::ColourClass> classes) {
+    if (list_->accessibleName() != name)
+        list_->clear();
     setWindowTitle(name);
     list_->setAccessibleName(name);
-    const int current = list_->indexOfTopLevelItem(list_->currentItem());
     const int swatch_size = fontMetrics().ascent();
-    list_->clear();
     provinces_.clear();
     for (const auto& colour_class : classes) {
-        auto* item = new QTreeWidgetItem(list_, {base::caption_text(text_of(field, colour_class)),
-                                                 QString::number(colour_class.provinces.size())});
+        auto* item = list_->topLevelItem(static_cast<int>(provinces_.size()));
+        if (item == nullptr)
+            item = new QTreeWidgetItem(list_);
+        item->setText(text_column, base::caption_text(text_of(field, colour_class)));
+        item->setText(count_column, QString::number(colour_class.provinces.size()));
         item->setIcon(text_column, swatch(colour_class.colour, swatch_size));
         item->setTextAlignment(count_column, Qt::AlignRight | Qt::AlignVCenter);
         provinces_.push_back(colour_class.provinces);
     }
-    if (current >= 0)
-        list_->setCurrentItem(list_->topLevelItem(current));
+    while (list_->topLevelItemCount() > static_cast<int>(classes.size()))
+        delete list_->takeTopLevelItem(list_->topLevelItemCount() - 1);
 }
 
 std::string Legende::text_of(const editor::Field& field,

@@ -20,14 +20,18 @@ class Legende : public QDockWidget {
     Q_OBJECT
 
   public:
+    /// The session must outlive the legend.
     Legende(const Session& session, QWidget* owner);
 
-    /// Shows the classes of the field, which is named in the title.
+    /// Shows the classes of the field, which is named in the title. For the same field, place and
+    /// current entry of the list stay.
     void show_classes(const editor::Field& field, const QString& name,
                       std::span<const map::ColourClass> classes);
 
   signals:
+    /// The provinces of an entry are to be selected.
     void chosen(const std::vector<int>& provinces);
+    /// The user has closed the legend.
     void closed();
 
   protected:

@@ -4,6 +4,7 @@
 #include "support/main_frame.h"
 
 #include <QDockWidget>
+#include <QScrollBar>
 #include <QTreeWidget>
 
 /// The map coloured by a field, and its legend, in the main frame.
@@ -22,7 +23,7 @@ class Colours : public support::MainFrame {
         folder.write("relief.bmp",
                      bitmaps::painted(width, 120, [](int, int) { return paper & 0xFFFFFF; }));
         folder.write("ids.bmp", bitmaps::painted(width, 120, [](int x, int) {
-                         return bitmaps::colour_of(x < width / 2 ? 5 : 6);
+                         return bitmaps::colour_of(x <= width / 2 ? 5 : 6);
                      }));
         load(5, religion, "hindu");
         load(6, religion, "orthodox");
@@ -69,6 +70,10 @@ TEST_F(Colours, TheMapShowsAFieldAndTheLegendSelects) {
     colour_by("colorer(3)");
     EXPECT_EQ(seen(20), shown(hindu));
     EXPECT_EQ(seen(150), shown(orthodox));
+    press_key(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(seen(width / 4), shown(hindu)) << "no mixture of two provinces' identifiers";
+    open_maps("relief.bmp", "", "ids.bmp");
+    EXPECT_EQ(seen(20), shown(hindu)) << "a new window shows the colours, too";
     EXPECT_EQ(legend(), "Hindu 1\nOrthodox 1\nNo value 2016\n");
     EXPECT_EQ(control<QDockWidget>("légende").windowTitle(), "Religion");
 
@@ -93,6 +98,17 @@ TEST_F(Colours, TheMapShowsAFieldAndTheLegendSelects) {
     control<QDockWidget>("légende").close();
     EXPECT_EQ(seen(190), paper);
     EXPECT_TRUE(action("colorer(0)").isChecked());
+
+    colour_by("colorer(3)");
+    for (int province = 101; province < 200; ++province)
+        load(province, religion, std::to_string(province));
+    QCoreApplication::processEvents();
+    list().scrollToBottom();
+    const int scrolled = list().verticalScrollBar()->value();
+    EXPECT_GT(scrolled, 0);
+    select("5");
+    click("religion(5)");
+    EXPECT_EQ(list().verticalScrollBar()->value(), scrolled) << "what is edited moves no list";
 }
 
 } // namespace
