@@ -38,7 +38,7 @@ void MDIForm1::build_colours() {
 
 void MDIForm1::colour_by(data::FieldNumber field) {
     coloriage_->colour_by(field, panel_->field_name(field));
-    map_window(); // a closed one is to show the colours
+    seen_map_window(); // a closed one is to show the colours, too
 }
 
 void MDIForm1::end_colours() {

@@ -133,12 +133,12 @@ void MDIForm1::zoom_moins() {
 }
 
 void MDIForm1::zoom_by(int steps) {
-    if (auto* map = map_window())
+    if (auto* map = seen_map_window())
         map->view().set_level(map::ZoomLevel(map->view().level().power() + steps));
 }
 
 void MDIForm1::zoom_to(map::ZoomLevel level) {
-    if (auto* map = map_window())
+    if (auto* map = seen_map_window())
         map->view().set_level(level);
 }
 
@@ -147,7 +147,7 @@ void MDIForm1::zoom_1() {
 }
 
 void MDIForm1::zoom_tout() {
-    if (auto* map = map_window())
+    if (auto* map = seen_map_window())
         map->view().show_whole_map();
 }
 

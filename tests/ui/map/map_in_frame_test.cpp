@@ -86,6 +86,10 @@ TEST_F(MapInFrame, MinimisedMapWindowComesBack) {
     choose("carte", "carte_1");
     EXPECT_TRUE(surface().isVisible());
     EXPECT_EQ(window->geometry(), before);
+    window->showMinimized();
+    QTest::keyClick(frame.get(), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_TRUE(surface().isVisible());
+    EXPECT_EQ(surface().width(), 1800);
 }
 
 TEST_F(MapInFrame, DrawingsGoOffWithTheirArt) {

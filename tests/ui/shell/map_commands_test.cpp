@@ -156,17 +156,6 @@ TEST_F(MapCommands, AMapThatWasChangedMeanwhileIsShownOnActivation) {
     EXPECT_EQ(control<QWidget>("Picture1").width(), 2 * width + 2);
 }
 
-TEST_F(MapCommands, ThePointersProvinceIsNamed) {
-    start();
-    open_maps();
-    const auto& text = control<QLabel>("Bar(2)");
-    for (const auto& [x, words] : {std::pair{20, "id = 5"}, {180, "id = 6"}}) {
-        QTest::mouseMove(&control<QWidget>("Picture1"), {x, 50});
-        QCoreApplication::processEvents();
-        EXPECT_EQ(text.text(), words);
-    }
-}
-
 TEST_F(MapCommands, AClosedMapWindowIsMadeAnew) {
     start_again();
     open_maps();
@@ -174,12 +163,16 @@ TEST_F(MapCommands, AClosedMapWindowIsMadeAnew) {
     const std::pair<Qt::Key, Qt::KeyboardModifiers> commands[] = {
         {Qt::Key_2, Qt::ControlModifier}, {Qt::Key_F3, {}}, {Qt::Key_F2, {}}};
     for (const auto& [key, keys] : commands) {
+        for (int times = 0; times < 3; ++times)
+            press_key(Qt::Key_Plus, Qt::ControlModifier);
+        EXPECT_FALSE(action("zoom_plus").isEnabled());
         map_frame().close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_EQ(map_window(), nullptr);
         press_key(key, keys);
         ASSERT_NE(map_window(), nullptr) << key;
         EXPECT_TRUE(map_window()->isVisible()) << key;
+        EXPECT_TRUE(action("zoom_plus").isEnabled()) << "it begins at level 1";
     }
     click_map({150, 50});
     EXPECT_EQ(selection_text(), "6");

@@ -62,12 +62,13 @@ TEST_F(StatusBar, NamesThePointersProvinceAndWhatAClickThereStores) {
     start_in("english.lng");
     load(5, 1, "\xC9vora & <b>");
     point_at({20, 30});
-    EXPECT_EQ(told("nom"), "\xC9vora & <b> (1020.5, 10)");
+    EXPECT_EQ(told("nom") + " " + told("Bar(2)"), "\xC9vora & <b> (1020.5, 10) id = 5");
     press_key(Qt::Key_F3);
     QTest::mouseClick(&control<QWidget>("Picture1"), Qt::LeftButton, {}, {20, 30});
     EXPECT_EQ(cell(5, 28) + " " + cell(5, 29), "1020.5 10");
     point_at({150, 31});
     EXPECT_EQ(told("nom"), "(1150.5, 11)") << "no province has that identifier";
+    EXPECT_EQ(told("Bar(2)"), "id = 2500");
     session.maps.y_offset = -32768;
     point_at({20, -1});
     session.maps.y_offset = 32767;
