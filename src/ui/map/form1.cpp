@@ -121,7 +121,6 @@ void Form1::follow_files() {
     if (changed) {
         view_->take_sizes();
         work_out_dots();
-        emit reloaded();
     } else if (session_.mode != Mode::normal) {
         clear_graphique(); // it looks after the files of the graphics
     }

@@ -85,8 +85,6 @@ class Form1 : public QWidget {
     void province_clicked(int identifier, bool add, const data::Phrase& place);
     /// Why a map or a graphic cannot be shown; once until mode, maps or graphics change.
     void problem(const QString& text);
-    /// The files of maps were changed, and the maps are read from them anew.
-    void reloaded();
     /// Tab, or Shift+Tab when not `forward`, is to move the focus out of the map.
     void tabbed(bool forward);
 

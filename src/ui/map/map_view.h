@@ -64,6 +64,7 @@ class MapView : public QScrollArea {
     void hovered(const QPointF& position);
     /// A button was released there, and the map was not dragged by it.
     void clicked(const QMouseEvent& event, const QPointF& position);
+    /// The map is shown at another level.
     void level_changed(ZoomLevel level);
     /// A part of a map could not be read, and is grey.
     void problem(const data::Place& reason);

@@ -74,9 +74,6 @@ TEST_F(FollowFiles, AChangedMapIsShownAnewAtTheSamePlace) {
         SCOPED_TRACE(row.what);
         open_on(row.before);
         const QRect part = form->view().visible_part();
-        QSignalSpy reloaded(form.get(), &map::Form1::reloaded);
-        form->follow_files();
-        EXPECT_EQ(reloaded.count(), 0) << "nothing was changed";
         write("1.bmp", row.after);
         form->follow_files();
         EXPECT_EQ(seen_in_middle(), row.seen);
@@ -86,7 +83,6 @@ TEST_F(FollowFiles, AChangedMapIsShownAnewAtTheSamePlace) {
         write("1.bmp", row.before);
         form->follow_files();
         EXPECT_EQ(seen_in_middle(), paper) << "it can be read again";
-        EXPECT_EQ(reloaded.count(), 2);
     }
 }
 
@@ -111,9 +107,11 @@ TEST_F(FollowFiles, DotsAndClicksFollowTheIdMap) {
     session.selection.apply("12");
     form->selection_or_mode_changed();
     EXPECT_EQ(seen_in_middle(), paper);
+    EXPECT_NE(form->index().place(1), nullptr);
     write("id.bmp",
           bitmaps::painted(width, height, [](int, int) { return bitmaps::colour_of(12); }));
     form->follow_files();
+    EXPECT_EQ(form->index().place(1), nullptr);
     form->view().centre_on({460, 360});
     EXPECT_EQ(seen_in_middle(), 0xFF000000);
     click(2 * QPoint(450, 350));
