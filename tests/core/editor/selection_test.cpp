@@ -125,19 +125,4 @@ TEST(SelectionHistory, GoesThroughTheLastSelections) {
     EXPECT_EQ(steps, 199);
 }
 
-TEST(Changement, WritesTheSelectedRowsOnly) {
-    data::ProvinceTable table;
-    Selection selection;
-    changement(table, selection, "x", {1});
-    EXPECT_FALSE(table.has_unsaved_changes());
-    selection.apply("5;7-8");
-    changement(table, selection, "x", {1});
-    int written = 0;
-    for (const auto& cell : table.column({0}))
-        written += cell == "x" ? 1 : 0;
-    EXPECT_EQ(written, 3);
-    EXPECT_EQ(table.cell(7, {0}), "x");
-    EXPECT_EQ(table.cell(7, {1}), "");
-}
-
 } // namespace

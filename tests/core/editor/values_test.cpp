@@ -121,13 +121,4 @@ TEST(CodedChoices, TellInHowManyProvincesTheyChangedSomething) {
     EXPECT_EQ(choose(table, selection, fields[treaty_spain], "x"), 0);
 }
 
-TEST(CodedChoices, ATreatyClaimedByBothIsNeitherOnes) {
-    Provinces provinces;
-    EXPECT_EQ(provinces.shown(treaty_spain), "") << "nothing is selected";
-    provinces.selection.apply("5");
-    for (const FieldNumber number : {treaty_spain, treaty_portugal})
-        changement(provinces.table, provinces.selection, "1", number);
-    EXPECT_EQ(provinces.shown(treaty_spain), "0");
-}
-
 } // namespace

@@ -60,7 +60,7 @@ TEST(ProvinceSearch, WhatIsFound) {
         {by_name, contains, "\xE9V", "1=rome +0"},
         {by_name, contains, "", "1=rome 2=- 3=Paris 4= +2014"},
         {by_name, equals, "ROME", "1=rome 2=- +0"},
-        {by_name, differs, "paris", "1=rome 2=- 4= +2014"},
+        {by_name, differs, "rome", "3=Paris 4= +2014"},
         {by_name, is_empty, "", "2=- 4= +2014"},
         {in(column::religion), contains, "NN", "1=sunni (Sunnite) +0"},
         {in(column::religion), equals,

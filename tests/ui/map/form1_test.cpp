@@ -12,16 +12,6 @@ TEST_F(Form1, WithoutMap2ItCannotBeChosen) {
     EXPECT_TRUE(surface()->isVisible());
 }
 
-TEST_F(Form1, UnreadableImageIsAnError) {
-    for (std::string map::Maps::*path :
-         {&map::Maps::map_1_path, &map::Maps::map_2_path, &map::Maps::id_map_path}) {
-        shell::Session broken;
-        broken.maps = session.maps;
-        broken.maps.*path = folder.path("absent.bmp");
-        EXPECT_THROW(map::Form1{broken}, data::RunTimeError);
-    }
-}
-
 TEST_F(Form1, ClickSelects) {
     struct Row {
         Qt::MouseButton button = Qt::NoButton;

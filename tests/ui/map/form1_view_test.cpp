@@ -108,26 +108,20 @@ TEST_F(Form1, OverflowOfYIsAnError) {
     EXPECT_EQ(city(1), "10,32767");
 }
 
-TEST_F(Form1, AnotherMapShowsTheSamePlace) {
-    open({400, 300});
-    click({50, 150});
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
-    const QPoint corner_before = corner();
-    ASSERT_NE(corner_before, QPoint(0, 0));
-    form->show_map(map::ShownMap::id_map);
-    EXPECT_EQ(-surface("Picture_id")->mapTo(form.get(), QPoint(0, 0)), corner_before);
-    EXPECT_TRUE(surface("Picture_id")->hasFocus());
-}
-
 TEST_F(Form1, ScrollsByWheelAndKeyboard) {
     open({400, 300});
     EXPECT_EQ(corner(), QPoint(0, 0));
-    const QPointF point(50, 50);
-    QWheelEvent wheel(point, surface()->mapToGlobal(point), {}, {0, -120}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&wheel); // else it stays with the surface
-    QApplication::instance()->notify(surface(), &wheel);
-    EXPECT_EQ(corner().x(), 0);
+    const auto wheel = [this](Qt::KeyboardModifiers keys) {
+        const QPointF point(50, 50);
+        QWheelEvent event(point, surface()->mapToGlobal(point), {}, {0, -120}, Qt::NoButton, keys,
+                          Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&event); // else it stays with the surface
+        QApplication::instance()->notify(surface(), &event);
+    };
+    wheel(Qt::ShiftModifier);
+    EXPECT_EQ(corner(), QPoint(120, 0)) << "sideways, three steps and no page";
+    wheel({});
+    EXPECT_EQ(corner().x(), 120);
     EXPECT_GT(corner().y(), 20);
 
     click({50, 150});
@@ -162,36 +156,6 @@ TEST_F(Form1, MiddleDragScrollsAndIsNoClick) {
     EXPECT_EQ(clicked, "");
     click({250, 150}, Qt::MiddleButton);
     EXPECT_EQ(clicked, "12 ") << "a middle click without dragging is a click";
-}
-
-TEST_F(Form1, PressTakesTheFocus) {
-    open();
-    QLineEdit other(form.get());
-    other.show();
-    other.setFocus();
-    QCoreApplication::processEvents();
-    ASSERT_TRUE(other.hasFocus());
-    bool focused_before_click = false;
-    QObject::connect(form.get(), &map::Form1::province_clicked,
-                     [&] { focused_before_click = !other.hasFocus(); });
-    click({450, 350}, Qt::RightButton);
-    EXPECT_TRUE(focused_before_click);
-    EXPECT_TRUE(surface()->hasFocus());
-}
-
-TEST_F(Form1, SurvivesItsFiles) {
-    open();
-    ASSERT_TRUE(QFile::remove(folder.native("1.bmp")));
-    ASSERT_TRUE(QFile::remove(folder.native("id.bmp")));
-    EXPECT_EQ(seen().pixel(450, 350), 0xFF808080);
-    click({450, 350});
-    EXPECT_EQ(clicked, "");
-    session.selection.apply("1");
-    form->selection_or_mode_changed();
-    EXPECT_EQ(seen().pixel(0, 0), 0xFF808080);
-    folder.write("id.bmp", id_map());
-    click({450, 350});
-    EXPECT_EQ(clicked, "32 ");
 }
 
 } // namespace

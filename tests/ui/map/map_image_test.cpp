@@ -174,24 +174,6 @@ TEST(MapImage, MissingPaddingOfTheLastRowIsNoLoss) {
     EXPECT_EQ(read_all(short_one), read_all(whole));
 }
 
-TEST(MapImage, NamesWhatCannotBeFound) {
-    const support::Folder folder;
-    struct Row {
-        const char* name;
-        ErrorNumber number;
-    };
-    for (const Row row : {Row{"absent.bmp", ErrorNumber::file_not_found},
-                          Row{"absent/map.bmp", ErrorNumber::path_not_found},
-                          Row{".", ErrorNumber::path_file_access}}) {
-        try {
-            const map::MapImage image(folder.path(row.name));
-            ADD_FAILURE() << row.name;
-        } catch (const data::RunTimeError& error) {
-            EXPECT_EQ(error.number(), row.number) << error.what();
-        }
-    }
-}
-
 TEST(MapImage, FollowsItsFile) {
     const support::Folder folder;
     const auto red = bitmaps::painted(40, 30, [](int, int) { return 0xFF0000U; });

@@ -318,6 +318,8 @@ TEST_F(OverlayPreviewTest, PortShowsItsSeaAndThatItWaitsForOne) {
     EXPECT_TRUE(covered(painted()).contains(marker(20, 50).adjusted(-1, -1, 1, 1)));
     session.port_placement.stage = 0;
     EXPECT_EQ(painted(), with_sea);
+    level = map::ZoomLevel(-2);
+    EXPECT_LT(covered(painted()).width(), 15) << "no room for the seas of all ports";
 }
 
 TEST_F(OverlayPreviewTest, DrawingsAreCentredOnTheirPositions) {

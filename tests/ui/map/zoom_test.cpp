@@ -27,14 +27,6 @@ class Zoom : public map_window::Form1 {
         QSpontaneKeyEvent::setSpontaneous(&event); // else it stays with the surface
         QApplication::instance()->notify(surface(), &event);
     }
-    /// Clicks on the first pixel, which stands for the middle in Qt's own events for tests.
-    static void click_corner(QWidget& on) {
-        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            QMouseEvent event(type, QPointF(), on.mapToGlobal(QPointF()), Qt::LeftButton,
-                              Qt::LeftButton, Qt::NoModifier);
-            QCoreApplication::sendEvent(&on, &event);
-        }
-    }
     /// Returns the part of the surface that is in the view, as it is seen.
     QImage in_view() const {
         return view().viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32);
@@ -113,6 +105,9 @@ TEST_F(Zoom, TheWholeMapIsShownAtTheLargestLevelThatFits) {
         view().show_whole_map();
         EXPECT_EQ(view().level(), ZoomLevel(power)) << size.width() << ' ' << size.height();
     }
+    EXPECT_EQ(view().visible_part(), QRect(0, 0, width, height));
+    form->resize(2000, 2000);
+    EXPECT_EQ(view().visible_part(), QRect(0, 0, width, height)) << "there is no more of it";
 }
 
 TEST_F(Zoom, LevelAndPlaceSurviveAnotherMapAndMode) {
@@ -120,7 +115,9 @@ TEST_F(Zoom, LevelAndPlaceSurviveAnotherMapAndMode) {
     set_power(2);
     view().centre_on({450, 350});
     const QRect part = view().visible_part();
+    surface()->setFocus();
     form->show_map(map::ShownMap::id_map);
+    EXPECT_TRUE(surface("Picture_id")->hasFocus());
     session.mode = Mode::ville;
     form->selection_or_mode_changed();
     EXPECT_EQ(view().level(), ZoomLevel(2));
@@ -186,43 +183,6 @@ TEST_F(Zoom, AMapAsWideAsTheyComeIsRightAtItsFarEnd) {
     click(point);
     EXPECT_EQ(clicked, std::to_string(point.x() / 80) + " ");
     EXPECT_EQ(in_view().pixel(300, 100) & 0xFFFFFF, static_cast<QRgb>(point.x() / 800 * 37));
-}
-
-TEST_F(Zoom, OddMapsAreShownAtEveryLevel) {
-    const auto single = [](int w, int h, int province) {
-        return bitmaps::painted(w, h, [=](int, int) { return bitmaps::colour_of(province); });
-    };
-    struct Row {
-        std::string map_1;
-        std::string ids;
-        const char* clicked; // by a click into the upper left corner
-    };
-    const Row rows[] = {{single(1, 1, 3), single(1, 1, 7), "7 "},
-                        {single(300, 200, 3), single(1, 1, 7), "7 "},
-                        {single(3, 500, 3), single(301, 33, 2018), "2018 "},
-                        {single(33, 17, 4000), single(33, 17, 4000), "4000 "}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.clicked);
-        support::MessageBoxes boxes;
-        maps_of(row.map_1, row.ids);
-        session.selection.apply("1-2018");
-        open({200, 150});
-        for (const auto shown_map : {map::ShownMap::map_1, map::ShownMap::id_map}) {
-            form->show_map(shown_map);
-            for (int power = ZoomLevel::smallest; power <= ZoomLevel::largest; ++power) {
-                set_power(power);
-                in_view();
-                QWidget* shown =
-                    surface(shown_map == map::ShownMap::map_1 ? "Picture1" : "Picture_id");
-                ASSERT_FALSE(shown->size().isEmpty());
-                clicked.clear();
-                click_corner(*shown);
-                EXPECT_EQ(clicked, row.clicked) << power;
-                QTest::mouseClick(shown, Qt::LeftButton, {}, shown->rect().bottomRight());
-            }
-        }
-        boxes.take(); // identifiers above 2018
-    }
 }
 
 TEST_F(Zoom, FilesShrinkAndVanishWhileZoomed) {

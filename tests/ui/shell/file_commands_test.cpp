@@ -1,7 +1,6 @@
 #include "data/province_file.h"
 #include "support/main_frame.h"
 
-#include <QHeaderView>
 #include <QLabel>
 #include <QTableView>
 
@@ -148,27 +147,6 @@ TEST_F(FileCommands, ProblemsAreListedAndLeadToTheirProvince) {
     load(7, 24, "5");
     driver::press(dialog("Form_contrôle"), "refresh");
     EXPECT_EQ(list.model()->rowCount(), 0);
-}
-
-TEST_F(FileCommands, AClickOnAHeadingSortsTheProblems) {
-    start();
-    load(7, 24, "9");
-    load(1000, 24, "8");
-    press_key(Qt::Key_K, Qt::ControlModifier);
-    auto& list = dialog<QTableView>("problèmes");
-    auto& header = *list.horizontalHeader();
-    const auto click_on = [&](int column) {
-        const QPoint place(header.sectionViewportPosition(column) + 8, header.height() / 2);
-        QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, place);
-        return text(list, 0, 0) + " " + text(list, 1, 0);
-    };
-    EXPECT_EQ(click_on(2), "1000 7");
-    EXPECT_EQ(click_on(0), "7 1000") << "by number";
-    EXPECT_EQ(click_on(0), "1000 7");
-    driver::press(dialog("Form_contrôle"), "refresh");
-    list.selectRow(0);
-    QTest::keyClick(&list, Key_Return);
-    EXPECT_EQ(control<QLineEdit>("selection_text").text(), "1000") << "the order stays";
 }
 
 TEST_F(FileCommands, TheNoticeTellsOfFilesThatAreNotWhatTheySeem) {

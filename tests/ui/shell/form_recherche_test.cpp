@@ -85,6 +85,8 @@ TEST_F(Search, FindsWhileOneTypesAndMakesSelections) {
     QTest::mouseClick(list.horizontalHeader()->viewport(), Qt::LeftButton, {}, {10, 5});
     QTest::keyClick(&in_form<QLineEdit>("text"), Qt::Key_Backspace);
     EXPECT_EQ(listed().substr(0, 5), "1500 ") << "the order stays while one types";
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_EQ(shown("selection_text"), "1500");
     QTest::keyClick(&list, Qt::Key_Down, Qt::ShiftModifier);
     EXPECT_EQ(shown_count(), "3 provinces, 2 chosen");
     push("select_all");

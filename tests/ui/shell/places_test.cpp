@@ -166,6 +166,7 @@ TEST_F(Places, SuivanteGoesThroughTheProvincesWithoutAPosition) {
     EXPECT_NE(seen({560, 55}), line) << "in the mode only";
     EXPECT_EQ(control<QLineEdit>("selection_text").text(), "6") << "the selection stays";
     press_key(Qt::Key_F3);
+    EXPECT_NE(seen({560, 55}), line) << "gone with the mode";
     choose("recherche", "suivante");
     EXPECT_EQ(told("notice"), "To be placed: 2") << "round the end";
     for (const QPoint point : {QPoint(510, 410), QPoint(0, 51), QPoint(141, 13)}) {
@@ -182,24 +183,31 @@ TEST_F(Places, StrangeMapsDoNoHarm) {
     };
     const std::string maps[] = {bitmaps::painted(1, 1, one(7)), bitmaps::painted(1, 1, one(4000)),
                                 bitmaps::painted(300, 200, one(7)),
-                                bitmaps::painted(300, 200, one(4000)), bitmaps::noise({300, 200})};
+                                bitmaps::painted(33, 170, one(4000)), bitmaps::noise({300, 200})};
     for (const auto& map : maps) {
         SCOPED_TRACE(&map - maps);
         session.maps.id_map_path = folder.write("id.bmp", map);
+        if (&map == &maps[0] || &map == &maps[3]) // else the two are of different sizes
+            session.maps.map_1_path = session.maps.id_map_path;
         frame.reset();
         start();
         frame->open_maps();
+        frame->colour_by({3});
         for (const char* selection : {"7", "1-2018"}) {
             select(selection);
-            press_key(Qt::Key_F8);
-            press_key(Qt::Key_F3);
-            press_key(Qt::Key_F9);
-            surface().grab();
-            press_key(Qt::Key_F2);
+            for (const Qt::Key key : {Qt::Key_F8, Qt::Key_F3, Qt::Key_F9, Qt::Key_F2, Qt::Key_9,
+                                      Qt::Key_Minus, Qt::Key_Minus, Qt::Key_Minus, Qt::Key_Minus,
+                                      Qt::Key_Minus, Qt::Key_0, Qt::Key_Plus, Qt::Key_Plus}) {
+                press_key(key, key < Qt::Key_F1 ? Qt::ControlModifier : Qt::NoModifier);
+                surface().grab();
+                ASSERT_FALSE(surface().size().isEmpty());
+            }
         }
+        session.maps.map_1_path = folder.path("1.bmp");
         EXPECT_TRUE(QFile::resize(folder.native("id.bmp"), 60));
         const auto shortened = file("id.bmp");
         press_key(Qt::Key_F8);
+        surface().grab();
         EXPECT_FALSE(session.provinces.has_unsaved_changes());
         EXPECT_EQ(file("id.bmp"), shortened);
         boxes.take_one(); // of colours that no province has
