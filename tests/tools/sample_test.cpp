@@ -64,18 +64,14 @@ TEST_F(SampleWorld, MapsShowEveryProvinceAtTheSamePixels) {
     ASSERT_EQ(id_map_.size(), QSize(small_map.width, small_map.height));
     ASSERT_EQ(political.size(), id_map_.size());
     EXPECT_EQ(picture(*folder_, "map1.bmp").size(), id_map_.size());
-    std::set<int> seen;
     std::set<int> sea_colours;
     for (int y = 0; y < id_map_.height(); ++y) {
         for (int x = 0; x < id_map_.width(); ++x) {
             const int province = province_at(id_map_, x, y);
-            seen.insert(province);
             if (is_sea(province))
                 sea_colours.insert(political.pixelIndex(x, y));
         }
     }
-    EXPECT_EQ(seen.size(), static_cast<std::size_t>(data::last_province));
-    EXPECT_EQ(*seen.begin(), 1);
     EXPECT_EQ(sea_colours, (std::set<int>{0, 1, 3})); // with its borders and the coasts
 }
 

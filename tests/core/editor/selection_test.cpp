@@ -67,11 +67,6 @@ TEST(SelectionText, IdentifiersAboveTheLastEndTheSelecting) {
     EXPECT_THROW((void)Selection().contains(2019), data::RunTimeError);
 }
 
-TEST(SelectionText, ClicksAppend) {
-    EXPECT_EQ(editor::with_province("", 9), "9");
-    EXPECT_EQ(editor::with_province("5", 9), "5;9");
-}
-
 TEST(CombinedSelection, IsNamedByItsShortestText) {
     using enum editor::Combination;
     const struct {

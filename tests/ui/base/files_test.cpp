@@ -76,13 +76,6 @@ TEST_F(FilesTest, LongestNameIsReplaced) {
     EXPECT_EQ(folder.names().size(), 1);
 }
 
-TEST_F(FilesTest, AFreeNameIsTakenOnce) {
-    EXPECT_TRUE(create_file(path("x.csv"), "first"));
-    EXPECT_FALSE(create_file(path("x.csv"), "second"));
-    EXPECT_EQ(read_file(path("x.csv")), "first");
-    EXPECT_EQ(folder.names(), QStringList("x.csv"));
-}
-
 #ifdef Q_OS_UNIX
 
 TEST_F(FilesTest, LinksPermissionsAndMissingTargetsStay) {

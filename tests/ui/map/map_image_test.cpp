@@ -94,17 +94,6 @@ TEST(MapImage, IdentifiesWithSixteenBits) {
                   provinces[x]);
 }
 
-TEST(MapImage, DecodesOtherImages) {
-    const support::Folder folder;
-    QImage painted(30, 20, QImage::Format_RGB32);
-    painted.fill(QColor(0, 128, 0));
-    painted.setPixelColor(29, 19, QColor(128, 0, 0));
-    ASSERT_TRUE(painted.save(folder.native("map.bmp"), "PNG"));
-    const map::MapImage image(folder.path("map.bmp"));
-    EXPECT_EQ(read_all(image), painted);
-    EXPECT_EQ(map::MapReader(image).colour_at({29, 19}), 0x800000U);
-}
-
 TEST(MapImage, HasNoColourOutside) {
     const support::Folder folder;
     const map::MapImage image(folder.write("map.bmp", bitmaps::noise({5, 4, 24})));

@@ -86,6 +86,7 @@ TEST_F(Colours, TheMapShowsAFieldAndTheLegendSelects) {
     EXPECT_EQ(cell(6, religion), "hindu");
     EXPECT_EQ(seen(190), shown(hindu));
     EXPECT_EQ(legend(), "Hindu 2\nNo value 2016\n");
+    EXPECT_EQ(list().indexOfTopLevelItem(list().currentItem()), 1);
     list().setFocus();
     QTest::keyClick(&list(), Qt::Key_Down);
     QTest::keyClick(&list(), Qt::Key_Return);
