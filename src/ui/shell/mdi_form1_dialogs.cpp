@@ -30,7 +30,7 @@ void show_beside(QPointer<Form>& form, Make make) {
 
 void MDIForm1::modifications() {
     show_beside(modifications_, [this] {
-        auto* form = new Form_modifications(session_, this);
+        auto* form = new Form_modifications(session_, *panel_, this);
         connect(form, &Form_modifications::province_chosen, this,
                 [this](int province) { select(std::to_string(province)); });
         connect(form, &Form_modifications::about_to_write, panel_,
