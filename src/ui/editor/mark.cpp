@@ -1,5 +1,6 @@
 #include "editor/mark.h"
 
+#include <QComboBox>
 #include <QEvent>
 #include <QHelpEvent>
 #include <QPainter>
@@ -32,6 +33,14 @@ void make_placeholder_readable(QWidget& control) {
     control.setPalette(readable);
 }
 
+void set_placeholder(QWidget& control, const QString& words) {
+    auto* list = qobject_cast<QComboBox*>(&control);
+    const int chosen = list != nullptr ? list->currentIndex() : -1;
+    control.setProperty(placeholder, words);
+    if (list != nullptr)
+        list->setCurrentIndex(chosen); // without a placeholder it would choose its first entry
+}
+
 } // namespace
 
 Mark::Mark(QWidget& control, QString words, std::function<QString()> tip)
@@ -47,7 +56,7 @@ void Mark::set_shown(bool shown) {
     control_.setAccessibleDescription(words);
     if (control_.metaObject()->indexOfProperty(placeholder) >= 0) {
         make_placeholder_readable(control_);
-        control_.setProperty(placeholder, words);
+        set_placeholder(control_, words);
     }
     if (!shown)
         return;

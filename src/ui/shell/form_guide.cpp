@@ -12,6 +12,7 @@
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QUrl>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -24,7 +25,7 @@ constexpr int headings_width = 260; // pixels
 constexpr int widest_picture = 740; // pixels
 constexpr int text_margin = 16;     // pixels
 constexpr int deepest_heading = 3;
-constexpr QSize room_for_the_frame(40, 60);
+constexpr QSize room_for_the_frame(40, 120); // a dialog comes up higher than its title bar needs
 
 /// Shows pictures in the width of the text.
 class Page : public QTextBrowser {
@@ -69,12 +70,19 @@ Form_guide::Form_guide(const LanguageTexts& language, const QString& file, QWidg
     text_->document()->setDocumentMargin(text_margin);
     list_headings();
     connect(headings_, &QListWidget::currentRowChanged, this, &Form_guide::show_heading);
+    connect(headings_, &QListWidget::itemClicked, this, // the current one, too
+            [this] { show_heading(headings_->currentRow()); });
 
     auto* row = new QHBoxLayout(this);
     row->addWidget(headings_);
     row->addWidget(text_, 1);
     text_->setFocus();
     resize(initial_size.boundedTo(screen()->availableSize() - room_for_the_frame));
+
+    // A window that belongs to the frame would always lie above it.
+    setAttribute(Qt::WA_QuitOnClose, false);
+    winId();
+    windowHandle()->setTransientParent(nullptr);
 }
 
 void Form_guide::list_headings() {

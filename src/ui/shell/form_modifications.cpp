@@ -1,6 +1,7 @@
 #include "shell/form_modifications.h"
 
 #include "base/qt_text.h"
+#include "editor/panneau.h"
 #include "shell/problem.h"
 
 #include <QPushButton>
@@ -18,10 +19,12 @@ constexpr std::array columns = {Text::column_province, Text::column_name, Text::
 
 } // namespace
 
-Form_modifications::Form_modifications(Session& session, QWidget* owner)
+Form_modifications::Form_modifications(Session& session, const editor::Panneau& panel,
+                                       QWidget* owner)
     : TableForm({"Form_modifications", "modifications_list", Text::modifications_caption, columns},
                 session, owner),
-      table_owner_(session) {
+      table_owner_(session),
+      panel_(panel) {
     auto* put_back_button = add_button("put_back", Text::button_put_back);
     auto* refresh_button = add_button("refresh", Text::button_refresh);
     connect(put_back_button, &QPushButton::clicked, this, &Form_modifications::put_back);
@@ -44,8 +47,7 @@ void Form_modifications::refresh() {
         rows.push_back({change.province,
                         base::to_qstring(provinces.cell(change.province,
                                                         data::table_column(data::column::name))),
-                        base::to_qstring(shown_column(data::file_column(change.column))),
-                        base::to_qstring(change.before),
+                        caption(data::file_column(change.column)), base::to_qstring(change.before),
                         base::to_qstring(provinces.cell(change.province, change.column))});
     const auto& language = table_owner_.language;
     show_rows(std::move(rows),
@@ -53,6 +55,14 @@ void Form_modifications::refresh() {
                                    ? language.text(Text::modifications_none)
                                    : language.text(Text::modifications_count,
                                                    {std::to_string(changes_.size())})));
+}
+
+QString Form_modifications::caption(data::FileColumn column) const {
+    if (!data::header(column).empty())
+        return base::to_qstring(shown_column(column));
+    return QStringLiteral("%1 (%2)")
+        .arg(column.number)
+        .arg(panel_.field_name(data::field_number(column)));
 }
 
 void Form_modifications::put_back() {

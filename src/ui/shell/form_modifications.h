@@ -4,6 +4,10 @@
 
 #include <vector>
 
+namespace editor {
+class Panneau;
+}
+
 namespace shell {
 
 /// The unsaved changes: every cell that differs from what a file last gave it or took from it.
@@ -11,7 +15,8 @@ class Form_modifications : public TableForm {
     Q_OBJECT
 
   public:
-    Form_modifications(Session& session, QWidget* owner);
+    /// The panel names the columns that have no header.
+    Form_modifications(Session& session, const editor::Panneau& panel, QWidget* owner);
 
     /// Shows the present changes.
     void refresh();
@@ -23,9 +28,11 @@ class Form_modifications : public TableForm {
     void written();
 
   private:
+    QString caption(data::FileColumn column) const;
     void put_back();
 
     Session& table_owner_;
+    const editor::Panneau& panel_;
     std::vector<data::Change> changes_; // as shown
 };
 

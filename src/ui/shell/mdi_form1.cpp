@@ -32,7 +32,7 @@ namespace {
 
 constexpr qsizetype most_languages = 10;
 constexpr QSize first_size(1280, 720);
-constexpr int name_width = 20; // characters
+constexpr int name_width = 27; // characters, of a name and two numbers of up to five digits
 constexpr std::array position_items = {"ville_menu", "armées_menu", "manuf_menu", "port_menu",
                                        "dessin_menu"};
 

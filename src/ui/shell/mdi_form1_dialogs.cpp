@@ -48,7 +48,7 @@ void bring_beside_map(QWidget& form, const QWidget& frame) {
 
 void MDIForm1::modifications() {
     make_beside(modifications_, [this] {
-        auto* form = new Form_modifications(session_, this);
+        auto* form = new Form_modifications(session_, *panel_, this);
         connect(form, &Form_modifications::province_chosen, this,
                 [this](int province) { select(std::to_string(province)); });
         connect(form, &Form_modifications::about_to_write, panel_,

@@ -64,7 +64,7 @@ QAction* add_numbered(QMenu& menu, const char* name, const QString& caption, con
     auto* item =
         menu.addAction(QStringLiteral("&%1  %2").arg(number).arg(base::item_text(fitting)));
     item->setObjectName(QStringLiteral("%1(%2)").arg(base::from_utf8(name)).arg(number - 1));
-    item->setToolTip(tip.toHtmlEscaped().replace('\n', QStringLiteral("<br>")));
+    item->setToolTip(QStringLiteral("<p style='white-space:pre'>%1</p>").arg(tip.toHtmlEscaped()));
     return item;
 }
 

@@ -83,6 +83,9 @@ TEST_F(MixedSelection, TheMarkGoesWithTheEntryThatMakesThemAgree) {
     EXPECT_EQ(list.placeholderText(), QStringLiteral("different values"));
     pick("culture", QStringLiteral("Akan"));
     EXPECT_EQ(list.placeholderText(), QString());
+    select_with(4, "akan", "welsh");
+    select_with(4, "", "");
+    EXPECT_EQ(list.currentIndex(), -1) << "both are empty, and no culture of the list is";
     // Neither does anything stay where nothing is selected.
     select_with(1, "a", "b");
     click("Command2");

@@ -108,6 +108,7 @@ TEST_F(Settings, RecentProvinceFilesAreOpenedAfterTheQuestion) {
     EXPECT_EQ(captions.size(), 2);
     EXPECT_TRUE(captions.value(0).startsWith("&1  /"));
     EXPECT_TRUE(captions.value(1).endsWith(QString::fromUtf8("/R&&D, \"地図\" 100%.csv")));
+    EXPECT_TRUE(Qt::mightBeRichText(action("fichier_récent(1)").toolTip())) << "its & is escaped";
     EXPECT_EQ(boxes.take_one(),
               "message: " + session.language.message(data::Message::open_question));
     EXPECT_EQ(cell(5, 1), "other");
