@@ -129,10 +129,13 @@ TEST_F(Form4Choice, TerrainArtIsLookedForInTheHighlightedFolder) {
 }
 
 TEST_F(Form4Choice, HiddenFoldersComeLast) {
+    for (const char* name : {"\xCE\xB1.csv", "back\\slash.csv", "\xC3\xA9.csv"})
+        folder.write(QString::fromUtf8(name));
     run(ChooserKind::CSV, [&] {
         EXPECT_EQ(texts("Dir1").mid(texts("Dir1").size() - 3),
                   QStringList({"sub", "two", ".hidden"}));
-        EXPECT_EQ(texts("File1"), QStringList("a.csv")) << "a quote cannot be stored";
+        EXPECT_EQ(texts("File1"), QStringList({"a.csv", QString::fromUtf8("\xC3\xA9.csv")}))
+            << "the others cannot be stored";
     });
 }
 

@@ -284,15 +284,4 @@ TEST_F(Form4Test, FilesFollowTheOpenedFolder) {
     EXPECT_EQ(session.configuration.province_file_path, stored("sub\\inner.csv"));
 }
 
-TEST_F(Form4Test, NamesThatNoStoredPathCanHoldAreNotOffered) {
-    touch(QString::fromUtf8("\xCE\xB1.csv"));
-    touch("back\\slash.csv");
-    touch(QString::fromUtf8("\xC3\xA9.csv"));
-    choose(ChooserKind::CSV, stored(""));
-    run([&] {
-        EXPECT_EQ(texts(files()),
-                  QStringList({"A.CSV", "b.csv", QString::fromUtf8("\xC3\xA9.csv")}));
-    });
-}
-
 } // namespace
