@@ -1,5 +1,6 @@
 #include "map/map_view.h"
 
+#include "map/banded_scroll_bar.h"
 #include "map/zoomed_rect.h"
 
 #include <QApplication>
@@ -22,9 +23,14 @@ constexpr int notch = QWheelEvent::DefaultDeltasPerStep;
 MapView::MapView(QWidget* parent) : QScrollArea(parent), surfaces_(new QWidget) {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus); // the surface has it
+    setHorizontalScrollBar(new BandedScrollBar(Qt::Horizontal, this));
+    setVerticalScrollBar(new BandedScrollBar(Qt::Vertical, this));
     horizontalScrollBar()->setSingleStep(scroll_step);
     verticalScrollBar()->setSingleStep(scroll_step);
-    surfaces_->setAttribute(Qt::WA_OpaquePaintEvent); // the visible surface covers it
+    // The visible surface covers it. Only this one is said to be opaque, and only this one is
+    // updated: Qt paints each opaque widget that is to be painted alone, so that what scrolling
+    // uncovers would be painted twice.
+    surfaces_->setAttribute(Qt::WA_OpaquePaintEvent);
     setWidget(surfaces_);
 }
 
@@ -62,20 +68,15 @@ void MapView::show_strips(const OpenStrips& open) {
         if (picture != nullptr)
             picture->show_strips(open);
     }
+    repaint_maps();
 }
 
 void MapView::repaint_maps() {
-    for (Picture* picture : pictures_) {
-        if (picture != nullptr)
-            picture->update();
-    }
+    surfaces_->update();
 }
 
 void MapView::repaint_maps(const QRect& shown) {
-    for (Picture* picture : pictures_) {
-        if (picture != nullptr)
-            picture->update(shown);
-    }
+    surfaces_->update(shown);
 }
 
 void MapView::take_sizes() {
@@ -84,6 +85,7 @@ void MapView::take_sizes() {
             picture->set_level(level_);
     }
     surfaces_->resize(shown_picture()->size());
+    repaint_maps();
 }
 
 Picture* MapView::shown_picture() const {

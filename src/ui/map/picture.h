@@ -4,14 +4,14 @@
 #include "map/strip_reader.h"
 #include "map/zoom_level.h"
 
-#include <QImage>
 #include <QWidget>
 
 #include <functional>
 
 namespace map {
 
-/// A surface that shows an image at a zoom level: all its coordinates are shown pixels.
+/// A surface that shows an image at a zoom level: all its coordinates are shown pixels. Who changes
+/// what it shows updates it.
 class Picture : public QWidget {
     Q_OBJECT
 
@@ -28,7 +28,8 @@ class Picture : public QWidget {
     /// Takes the image's size at the level.
     void set_level(ZoomLevel level);
 
-    /// Shows from now on what that opens, in the place of the image alone.
+    /// Shows from now on what that opens, by several threads at once, in the place of the image
+    /// alone.
     void show_strips(OpenStrips open);
 
   signals:
@@ -49,7 +50,6 @@ class Picture : public QWidget {
     DrawAbove draw_above_;
     OpenStrips open_strips_;
     ZoomLevel level_;
-    QImage strip_; // kept from one painting to the next
 };
 
 } // namespace map

@@ -14,7 +14,7 @@ namespace map {
 
 class MapImage;
 
-/// What a surface shows, read in strips while it is painted once.
+/// Reads what a surface shows, for one painting.
 class StripReader {
   public:
     StripReader() = default;
@@ -30,7 +30,8 @@ class StripReader {
     virtual const std::optional<data::Place>& problem() const = 0;
 };
 
-/// Opens what is to be shown of the map for one painting; never null.
+/// Opens what is to be shown of the map for one painting; never null. Several threads call it at
+/// once.
 using OpenStrips = std::function<std::unique_ptr<StripReader>(const MapImage& map)>;
 
 } // namespace map

@@ -33,7 +33,7 @@ QRgb expected(const QImage& whole, QPoint shown, ZoomLevel level, bool single) {
 
 TEST(Picture, PaintsEveryPixelOfWhatIsExposedAtEveryLevel) {
     const support::Folder folder;
-    const map::MapImage image(folder.write("map.bmp", bitmaps::noise({50, 101})));
+    const map::MapImage image(folder.write("map.bmp", bitmaps::noise({50, 301})));
     QImage whole(image.size(), QImage::Format_RGB32);
     map::MapReader(image).read(whole.rect(), {}, whole);
     map::Picture picture(
@@ -41,8 +41,8 @@ TEST(Picture, PaintsEveryPixelOfWhatIsExposedAtEveryLevel) {
     for (int power = ZoomLevel::smallest; power <= ZoomLevel::largest; ++power) {
         const ZoomLevel level(power);
         picture.set_level(level);
-        for (const QRect& area : {QRect(0, 0, 50, 101), QRect(3, 5, 40, 64), QRect(0, 31, 50, 1),
-                                  QRect(7, 9, 9, 33), QRect(49, 99, 1, 1)}) {
+        for (const QRect& area : {QRect(0, 0, 50, 301), QRect(3, 5, 40, 257), QRect(0, 31, 50, 1),
+                                  QRect(7, 9, 9, 33), QRect(49, 299, 1, 1)}) {
             const QRect part =
                 area.translated(power > 0 ? QPoint(1, 1) : QPoint()) & picture.rect();
             if (part.isEmpty())
