@@ -48,11 +48,14 @@ class PaintedRegion : public QObject {
   public:
     explicit PaintedRegion(QWidget* widget) { widget->installEventFilter(this); }
     QRegion region;
+    int times = 0;
 
   protected:
     bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::Paint)
+        if (event->type() == QEvent::Paint) {
             region |= static_cast<QPaintEvent*>(event)->region();
+            ++times;
+        }
         return false;
     }
 };

@@ -1,6 +1,6 @@
 #include "map/map_view.h"
 
-#include "map/banded_scroll_bar.h"
+#include "map/banded_style.h"
 #include "map/zoomed_rect.h"
 
 #include <QApplication>
@@ -23,10 +23,11 @@ constexpr int notch = QWheelEvent::DefaultDeltasPerStep;
 MapView::MapView(QWidget* parent) : QScrollArea(parent), surfaces_(new QWidget) {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus); // the surface has it
-    setHorizontalScrollBar(new BandedScrollBar(Qt::Horizontal, this));
-    setVerticalScrollBar(new BandedScrollBar(Qt::Vertical, this));
     horizontalScrollBar()->setSingleStep(scroll_step);
     verticalScrollBar()->setSingleStep(scroll_step);
+    auto* style = new BandedStyle;
+    style->setParent(this);
+    verticalScrollBar()->setStyle(style);
     // The visible surface covers it. Only this one is said to be opaque, and only this one is
     // updated: Qt paints each opaque widget that is to be painted alone, so that what scrolling
     // uncovers would be painted twice.

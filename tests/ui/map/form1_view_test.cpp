@@ -1,4 +1,7 @@
+#include "map/map_view.h"
 #include "support/map_window.h"
+
+#include <QScrollBar>
 
 /// What the map window paints, reports and scrolls to.
 namespace {
@@ -143,6 +146,26 @@ TEST_F(Form1, ScrollsByWheelAndKeyboard) {
     EXPECT_GT(corner().y(), height - 300);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Home);
     EXPECT_EQ(corner(), QPoint(0, 0));
+}
+
+TEST_F(Form1, IsPaintedOnceWhenItMovesAndChanges) {
+    open({400, 300});
+    PaintedRegion painted(surface());
+    form->view().centre_on({300, 200});
+    form->clear_graphique();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(painted.times, 1);
+    EXPECT_TRUE(painted.region.contains(QPoint(300, 200)));
+}
+
+TEST_F(Form1, ScrollBarsLookLikeThoseOfTheProgram) {
+    open({400, 300});
+    form->view().centre_on({300, 200});
+    for (QScrollBar* bar : {form->view().horizontalScrollBar(), form->view().verticalScrollBar()}) {
+        const QImage seen = bar->grab().toImage();
+        bar->setStyle(QApplication::style());
+        EXPECT_EQ(seen, bar->grab().toImage());
+    }
 }
 
 TEST_F(Form1, MiddleDragScrollsAndIsNoClick) {
