@@ -10,7 +10,7 @@ namespace {
 
 // Qt hands what is drawn over 96 rows or more out to threads, one line at a time: for a bar as high
 // as a window, waking them takes longer than painting the map beside it.
-constexpr int band_height = 64; // pixels
+constexpr int most_rows = 95; // pixels of the screen
 
 } // namespace
 
@@ -18,6 +18,7 @@ void BandedStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
                                      QPainter* painter, const QWidget* widget) const {
     const QRect bar = option->rect;
     const qreal scale = painter->device()->devicePixelRatioF();
+    const int band_height = static_cast<int>(most_rows / scale);
     QPixmap band(QSize(bar.width(), band_height) * scale);
     band.setDevicePixelRatio(scale);
     for (int top = bar.top(); top <= bar.bottom(); top += band_height) {
