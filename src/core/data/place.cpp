@@ -1,5 +1,7 @@
 #include "data/place.h"
 
+#include "data/text.h"
+
 #include <utility>
 
 namespace data {

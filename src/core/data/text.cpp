@@ -74,4 +74,20 @@ std::string with_decimal_point(std::string_view text) {
     return result;
 }
 
+std::string filled(std::string_view pattern, std::span<const std::string_view> values) {
+    std::string text;
+    for (std::size_t at = 0; at < pattern.size(); ++at) {
+        const bool marked = pattern[at] == '%' && at + 1 < pattern.size();
+        const auto number =
+            marked ? static_cast<std::size_t>(pattern[at + 1] - '1') : values.size();
+        if (number < values.size()) {
+            text += values[number];
+            ++at;
+        } else {
+            text += pattern[at];
+        }
+    }
+    return text;
+}
+
 } // namespace data

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -25,5 +26,9 @@ bool is_blank(std::string_view text);
 
 /// Returns the text with its first comma turned into a decimal point.
 std::string with_decimal_point(std::string_view text);
+
+/// Returns the pattern with %1 to %9 replaced by the first value, the second, and so on; one that
+/// has no value stays.
+std::string filled(std::string_view pattern, std::span<const std::string_view> values);
 
 } // namespace data

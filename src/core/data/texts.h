@@ -3,8 +3,6 @@
 #include "data/indexed_array.h"
 
 #include <cstddef>
-#include <span>
-#include <string>
 #include <string_view>
 
 namespace data {
@@ -315,9 +313,5 @@ inline constexpr std::size_t text_count = static_cast<std::size_t>(Text::last) +
 
 /// The texts by their enumerator.
 extern const IndexedArray<Text, TextInfo, text_count> texts;
-
-/// Returns the pattern with %1 to %9 replaced by the first value, the second, and so on; one that
-/// has no value stays.
-std::string filled(std::string_view pattern, std::span<const std::string_view> values);
 
 } // namespace data

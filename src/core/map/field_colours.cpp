@@ -6,6 +6,7 @@
 #include "map/identification.h"
 #include "map/palette.h"
 #include "map/province_index.h"
+#include "map/run_of_pixels.h"
 
 #include <algorithm>
 #include <map>
@@ -148,9 +149,7 @@ void FieldColours::take_numbers(const Values& values) {
 void FieldColours::tint(std::span<const Pixel> ids, std::span<Pixel> shown) const {
     for (std::size_t begin = 0; begin < shown.size();) { // most neighbours lie in one province
         const Pixel id = ids[begin];
-        std::size_t end = begin + 1;
-        while (end < shown.size() && ids[end] == id)
-            ++end;
+        const std::size_t end = end_of_run(ids.first(shown.size()), begin);
         const Pixel colour = id == no_pixel ? no_pixel : this->colour(province_of(id & 0xFFFFFF));
         if (colour != no_pixel)
             colour_over_relief(colour, shown.subspan(begin, end - begin));

@@ -3,6 +3,7 @@
 #include "data/indexed_array.h"
 #include "data/message.h"
 #include "data/place.h"
+#include "data/text.h"
 #include "data/texts.h"
 
 #include <array>

@@ -3,6 +3,7 @@
 #include "data/numbers.h"
 #include "data/text.h"
 #include "editor/coded_choices.h"
+#include "shell/code_texts.h"
 #include "shell/problem.h"
 
 #include <algorithm>
@@ -23,15 +24,12 @@ const editor::Field& field_of(const SearchTarget& target) {
     return editor::fields[target.kind == Kind::treaty ? treaty_field : target.field];
 }
 
-/// Returns the texts of the target's codes; none where its values are no codes. A box has an entry
-/// that captions it, not its values.
+/// Returns the texts of the target's codes; none where its values are no codes. What a single one
+/// of the treaty's columns holds is no code, either: only both mean an option.
 std::span<const Entry> texts_of_codes(const LanguageTexts& language, const SearchTarget& target) {
     const auto& field = field_of(target);
-    const bool has_codes =
-        target.kind == Kind::treaty ||
-        (target.kind == Kind::column &&
-         (field.display == editor::Display::group || field.display == editor::Display::list));
-    return has_codes ? language.list(field.list_prefix) : std::span<const Entry>();
+    const bool looks_at_shown_value = target.kind == target_of(field).kind;
+    return looks_at_shown_value ? code_texts(language, field) : std::span<const Entry>();
 }
 
 /// Decides about one value at a time.
@@ -49,12 +47,11 @@ class Matcher {
     };
 
     Verdict verdict(std::string_view cell) const {
-        const int index = index_of_code(texts_, cell);
-        const std::string_view text =
-            index < 0 ? std::string_view() : texts_[static_cast<std::size_t>(index)].text;
-        const bool matches_text = !text.empty() && compares_texts() && matches(text);
+        const std::string_view text = text_of_code(texts_, cell);
+        const bool has_other_text = !text.empty() && !data::equal_ignoring_case(text, cell);
+        const bool matches_text = has_other_text && compares_texts() && matches(text);
         std::string shown(cell);
-        if (!text.empty() && !data::equal_ignoring_case(text, cell))
+        if (has_other_text)
             shown.append(" (").append(text).append(")");
         return {(matches(cell) || matches_text) != is_negated(), std::move(shown)};
     }
@@ -150,15 +147,12 @@ std::vector<FoundProvince> find_provinces(const data::ProvinceTable& table,
 std::string text_to_find(const LanguageTexts& language, const SearchTarget& target,
                          const std::string& value) {
     const auto entries = texts_of_codes(language, target);
-    const int index = index_of_code(entries, value);
-    if (index < 0)
-        return value;
-    const auto& text = entries[static_cast<std::size_t>(index)].text;
+    const std::string_view text = text_of_code(entries, value);
     const auto holders = std::count_if(entries.begin(), entries.end(), [&](const Entry& entry) {
         return data::equal_ignoring_case(entry.text, text) ||
                data::equal_ignoring_case(entry.code, text);
     });
-    return !text.empty() && holders == 1 ? text : value;
+    return std::string(!text.empty() && holders == 1 ? text : value);
 }
 
 } // namespace shell

@@ -2,6 +2,7 @@
 
 #include "base/captions.h"
 #include "editor/differing_values.h"
+#include "shell/code_texts.h"
 
 #include <QStringList>
 
@@ -11,20 +12,10 @@ namespace {
 
 using shell::Text;
 
-/// Boxes have an entry that captions them, not their values.
-bool has_captioned_values(const Field& field) {
-    return field.display == Display::group || field.display == Display::treaty ||
-           field.display == Display::list;
-}
-
 std::string value_caption(const shell::LanguageTexts& language, const Field& field,
                           const std::string& value) {
-    if (has_captioned_values(field)) {
-        const auto entries = language.list(field.list_prefix);
-        if (const int index = shell::index_of_code(entries, value); index >= 0)
-            return entries[static_cast<std::size_t>(index)].text;
-    }
-    return value.empty() ? language.text(Text::empty_value) : value;
+    const std::string_view text = shell::text_of_code(shell::code_texts(language, field), value);
+    return std::string(value.empty() && text.empty() ? language.text(Text::empty_value) : text);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "shell/coloriage.h"
 
+#include "shell/code_texts.h"
 #include "shell/legende.h"
 #include "shell/place_check.h"
 
@@ -14,10 +15,8 @@ std::vector<std::string> codes_of(const editor::Field& field, const LanguageText
         return {"1", "0"};
     if (field.display == editor::Display::coast)
         return {"coastal", "inland"};
-    if (field.list_prefix.empty()) // it holds numbers
-        return {};
     std::vector<std::string> codes;
-    for (const auto& entry : language.list(field.list_prefix))
+    for (const auto& entry : code_texts(language, field))
         codes.push_back(entry.code);
     return codes;
 }

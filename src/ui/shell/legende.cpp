@@ -2,6 +2,7 @@
 
 #include "base/captions.h"
 #include "editor/coded_choices.h"
+#include "shell/code_texts.h"
 #include "shell/place_check.h"
 
 #include <QHeaderView>
@@ -78,7 +79,7 @@ std::string Legende::text_of(const editor::Field& field,
     const auto& language = session_.language;
     switch (colour_class.kind) {
     case map::ColourClass::Kind::code:
-        return text_of_code(field, colour_class.value);
+        return shown_code(field, colour_class.value);
     case map::ColourClass::Kind::number:
         return colour_class.value;
     case map::ColourClass::Kind::range:
@@ -86,20 +87,18 @@ std::string Legende::text_of(const editor::Field& field,
     case map::ColourClass::Kind::none:
         return language.text(Text::legend_none);
     case map::ColourClass::Kind::sea:
-        return text_of_code(editor::fields[data::field_number(data::column::terrain)],
-                            sea_code(language));
+        return shown_code(editor::fields[data::field_number(data::column::terrain)],
+                          sea_code(language));
     }
     return {};
 }
 
 /// Returns the text that the panel shows for the code; for a code that it does not know, the code.
-std::string Legende::text_of_code(const editor::Field& field, const std::string& code) const {
+std::string Legende::shown_code(const editor::Field& field, const std::string& code) const {
     const auto& language = session_.language;
     if (field.display == editor::Display::box || field.display == editor::Display::coast)
         return language.text(editor::is_checked(field, code) ? Text::legend_yes : Text::legend_no);
-    const auto list = language.list(field.list_prefix);
-    const int index = index_of_code(list, code);
-    return index < 0 ? code : list[static_cast<std::size_t>(index)].text;
+    return std::string(text_of_code(code_texts(language, field), code));
 }
 
 void Legende::closeEvent(QCloseEvent* event) {

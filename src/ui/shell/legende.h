@@ -39,7 +39,7 @@ class Legende : public QDockWidget {
 
   private:
     std::string text_of(const editor::Field& field, const map::ColourClass& colour_class) const;
-    std::string text_of_code(const editor::Field& field, const std::string& code) const;
+    std::string shown_code(const editor::Field& field, const std::string& code) const;
 
     const Session& session_;
     QTreeWidget* list_;

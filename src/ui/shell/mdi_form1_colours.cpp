@@ -1,4 +1,4 @@
-#include "base/qt_text.h"
+#include "base/captions.h"
 #include "editor/combined_selection.h"
 #include "editor/panneau.h"
 #include "shell/coloriage.h"
@@ -15,8 +15,7 @@ void MDIForm1::build_colours() {
     auto* fields = new QActionGroup(this);
     fields->addAction(action("colorer(0)"))->setChecked(true);
     for (const auto field : map::coloured_fields) {
-        QString caption = panel_->field_name(field);
-        auto* item = fields->addAction(caption.replace('&', QStringLiteral("&&")));
+        auto* item = fields->addAction(base::item_text(panel_->field_name(field)));
         item->setObjectName(QStringLiteral("colorer(%1)").arg(field.number));
         item->setCheckable(true);
         action("colorer")->menu()->addAction(item);

@@ -52,7 +52,6 @@ QString tip_of(const map::Maps& maps) {
 QMenu& emptied(QAction& item, bool will_have_items) {
     item.setEnabled(will_have_items);
     item.menu()->clear();
-    item.menu()->setToolTipsVisible(true);
     return *item.menu();
 }
 
