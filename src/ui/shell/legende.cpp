@@ -58,6 +58,8 @@ void Legende::show_classes(const editor::Field& field, const QString& name,
         list_->clear();
     setWindowTitle(name);
     list_->setAccessibleName(name);
+    const auto* before = list_->currentItem();
+    const QString current = before != nullptr ? before->text(text_column) : QString();
     const int swatch_size = fontMetrics().ascent();
     provinces_.clear();
     for (const auto& colour_class : classes) {
@@ -72,6 +74,8 @@ void Legende::show_classes(const editor::Field& field, const QString& name,
     }
     while (list_->topLevelItemCount() > static_cast<int>(classes.size()))
         delete list_->takeTopLevelItem(list_->topLevelItemCount() - 1);
+    // The entry may stand in another row now, or nowhere.
+    list_->setCurrentItem(list_->findItems(current, Qt::MatchExactly, text_column).value(0));
 }
 
 std::string Legende::text_of(const editor::Field& field,
@@ -83,6 +87,8 @@ std::string Legende::text_of(const editor::Field& field,
     case map::ColourClass::Kind::number:
         return colour_class.value;
     case map::ColourClass::Kind::range:
+        if (colour_class.value == colour_class.highest)
+            return colour_class.value;
         return language.text(Text::legend_range, {colour_class.value, colour_class.highest});
     case map::ColourClass::Kind::none:
         return language.text(Text::legend_none);

@@ -32,7 +32,7 @@ namespace {
 
 constexpr qsizetype most_languages = 10;
 constexpr QSize first_size(1280, 720);
-constexpr int name_width = 27; // characters, of a name and two numbers of up to five digits
+constexpr int name_width = 30; // characters, of a name and two numbers of up to five digits
 constexpr std::array position_items = {"ville_menu", "armées_menu", "manuf_menu", "port_menu",
                                        "dessin_menu"};
 
@@ -150,12 +150,14 @@ void MDIForm1::build_status_bar() {
     etat_->look();
     pointed_name_ = new base::ElidedLabel(statusBar());
     pointed_name_->setObjectName(QStringLiteral("nom"));
-    // A permanent widget is never covered; notice and state share the room that the others leave.
-    pointed_name_->setFixedWidth(fontMetrics().averageCharWidth() * name_width);
+    // Its width hangs on the window's alone: the others are not to move whenever the pointer does.
+    pointed_name_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    pointed_name_->setMinimumWidth(fontMetrics().averageCharWidth() * name_width);
+    // A permanent widget is never covered; three of them share the room that the others leave.
     statusBar()->addPermanentWidget(mode_text_);
-    statusBar()->addPermanentWidget(notice_, 1);
-    statusBar()->addPermanentWidget(etat_, 1);
-    statusBar()->addPermanentWidget(pointed_name_);
+    statusBar()->addPermanentWidget(notice_, 2);
+    statusBar()->addPermanentWidget(etat_, 2);
+    statusBar()->addPermanentWidget(pointed_name_, 1);
     statusBar()->addPermanentWidget(pointer_text_);
     pointer_text_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("id = 00000")));
 }

@@ -86,9 +86,10 @@ TEST_F(Colours, TheMapShowsAFieldAndTheLegendSelects) {
     EXPECT_EQ(cell(6, religion), "hindu");
     EXPECT_EQ(seen(190), shown(hindu));
     EXPECT_EQ(legend(), "Hindu 2\nNo value 2016\n");
-    EXPECT_EQ(list().indexOfTopLevelItem(list().currentItem()), 1);
+    EXPECT_TRUE(list().selectedItems().empty()) << "not the entry that has taken the place";
     list().setFocus();
-    QTest::keyClick(&list(), Qt::Key_Down);
+    for (int row_of_none = 0; row_of_none < 2; ++row_of_none)
+        QTest::keyClick(&list(), Qt::Key_Down);
     QTest::keyClick(&list(), Qt::Key_Return);
     EXPECT_EQ(selection_text(), "1-4;7-2018");
 
