@@ -117,6 +117,9 @@ TEST_F(Program, NamesTheFileThatItCannotStartWith) {
         {"\"GFX\",\"c:\",0\r\n\"ville\",\"c:\\absent.spr\",\"x\"\r\n",
          nullptr,
          {"config.txt", "line 2", "absent.spr"}},
+        {"\"LAN\",\"french.lng\",0\r\n\"ville\",\"c:\\absent.spr\",\"x\"\r\n",
+         nullptr,
+         {"ligne 2", "absent.spr"}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.configuration);

@@ -10,7 +10,9 @@ std::string text_of(const Problem& problem, const LanguageTexts& language) {
 }
 
 std::string shown_column(data::FileColumn column) {
-    return std::to_string(column.number) + " (" + std::string(data::header(column)) + ")";
+    const auto number = std::to_string(column.number);
+    const std::string header(data::header(column));
+    return header.empty() ? number : number + " (" + header + ")";
 }
 
 std::string on_one_line(std::string text) {

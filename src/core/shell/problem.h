@@ -28,7 +28,7 @@ struct Problem {
 /// Returns what is wrong, in the user's language.
 std::string text_of(const Problem& problem, const LanguageTexts& language);
 
-/// Returns "N (header)" for the column.
+/// Returns "N (header)" for the column, "N" for one without a header.
 std::string shown_column(data::FileColumn column);
 
 /// Returns the text with every control character as a blank, so that it stays on its line.

@@ -35,12 +35,13 @@ void Form_controle::refresh() {
     std::vector<Row> rows;
     rows.reserve(problems_.size());
     for (const auto& problem : problems_) {
-        const std::string what = text_of(problem, language);
+        std::string what = text_of(problem, language);
+        if (problem.is_hint)
+            what = language.text(Text::place_reason, {hint, what});
         rows.push_back(
             {problem.province > 0 ? QVariant(problem.province) : QVariant(QString()),
              base::to_qstring(problem.column ? shown_column(*problem.column) : std::string()),
-             base::to_qstring(problem.value),
-             base::to_qstring(problem.is_hint ? hint + ": " + what : what)});
+             base::to_qstring(problem.value), base::to_qstring(what)});
     }
     const auto hints = std::count_if(problems_.begin(), problems_.end(),
                                      [](const Problem& problem) { return problem.is_hint; });

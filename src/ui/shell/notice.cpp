@@ -11,7 +11,7 @@ constexpr int distance = 12; // pixels, to the texts beside it
 
 } // namespace
 
-Notice::Notice(QWidget* parent) : base::ElidedLabel(parent) {
+Notice::Notice(QWidget* parent) : base::ElidedLabel(parent, Qt::ElideMiddle) {
     setObjectName(QStringLiteral("notice"));
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     setContentsMargins(distance, 0, distance, 0);

@@ -6,7 +6,9 @@
 
 namespace shell {
 
-/// The part of the status bar that tells of what just happened, for a while.
+/// The part of the status bar that tells of what just happened, for a while. Of a long notice both
+/// ends are seen: the first words say what it is about, the last ones are a reason or a file's
+/// name.
 class Notice : public base::ElidedLabel {
   public:
     explicit Notice(QWidget* parent);

@@ -24,13 +24,28 @@ void read_configuration_file(const std::string& path, Session& session, SpriteSe
     }
 }
 
+/// What is wrong with the configuration is told in the language that it names, where it can be
+/// read.
+void take_language_so_far(Session& session) {
+    try {
+        session.language = read_language_file(session, session.configuration.language_file);
+    } catch (const data::RunTimeError&) {
+        // It is told in English.
+    }
+}
+
 } // namespace
 
 Run start_up(Session& session, SpriteSets sprite_sets) {
     const std::string path = base::in_folder(session.program_folder, configuration_file);
     const Run run = QFileInfo(base::native_path(path)).isFile() ? Run::later : Run::first;
-    if (run == Run::later)
-        read_configuration_file(path, session, sprite_sets);
+    try {
+        if (run == Run::later)
+            read_configuration_file(path, session, sprite_sets);
+    } catch (const data::RunTimeError&) {
+        take_language_so_far(session);
+        throw;
+    }
     const std::string& language_file = session.configuration.language_file;
     try {
         session.language = read_language_file(session, language_file);

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QSortFilterProxyModel>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -22,7 +23,7 @@ namespace {
 
 constexpr QSize initial_size(760, 420);
 constexpr int row_margin = 6;      // pixels above and below a row's text, together
-constexpr int widest_column = 480; // pixels, when the rows are shown first
+constexpr int widest_column = 600; // pixels, when the rows are shown first
 constexpr int around_columns = 50; // pixels, for scroll bar and margins
 
 QString text(const Session& session, Text text) {
@@ -131,7 +132,7 @@ void TableForm::show_rows(std::vector<Row> rows, const QString& count) {
         list_->setColumnWidth(column, std::min(wanted, widest_column));
         needed += std::min(wanted, widest_column);
     }
-    resize(std::max(width(), needed), height());
+    resize(std::min(std::max(width(), needed), screen()->availableSize().width()), height());
 }
 
 std::vector<std::size_t> TableForm::chosen() const {

@@ -132,8 +132,7 @@ TEST(Check, EveryFaultOfTheFileIsOneProblem) {
             "and saving will not keep it",
             "F:113: 1 (Id): the identifier '' is not between 1 and 2018: the line is not read and "
             "saving will not keep it",
-            "F:123: province 120, 57 (): saving will not keep 'x' (lines with text in this column: "
-            "1)",
+            "F:123: province 120, 57: saving will not keep 'x' (lines with text in this column: 1)",
             "F:133: province 130, 59 (Fill coord Y): saving will not keep '5' (lines with text in "
             "this column: 2)",
             "F: the game's own row 'Filler' is missing",

@@ -107,6 +107,12 @@ TEST_F(RecoveryCopies, NobodysFileIsTaken) {
     EXPECT_TRUE(folder.has("recovered-4.csv"));
 }
 
+TEST_F(RecoveryCopies, AreFoundBesideALockThatNamesNoProgram) {
+    const std::string copy = folder.write("recovered.csv", "kept");
+    folder.write("recovered.csv.lock", "");
+    EXPECT_EQ(recovery_copies(session), std::vector{copy});
+}
+
 TEST_F(RecoveryCopies, GoToTheUsersOwnFolder) {
     session.program_folder = folder.path("gone");
     write(5, "kept");

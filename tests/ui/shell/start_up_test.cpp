@@ -53,6 +53,10 @@ TEST_F(StartUp, TheStatusTextIsNeverCovered) {
     EXPECT_TRUE(control<QLabel>("Bar(1)").isVisible());
     EXPECT_EQ(notice.text(), QString(500, 'x'));
 
+    const QImage painted = notice.grab().toImage();
+    frame->tell(QString(500, 'x') + "y");
+    EXPECT_NE(notice.grab().toImage(), painted) << "the reason stands at the end";
+
     auto& time = driver::control<QTimer>(notice, "time");
     EXPECT_NEAR(time.remainingTime(), 15000, 1000);
     time.start(0);
