@@ -375,6 +375,8 @@ constexpr IndexedArray<Text, TextInfo, text_count> texts = {{{
      "the ID map has %1 pixels of this province, which has no values"},
     {Text::problem_colour, "problem_colour",
      "the ID map has %2 pixels of the identifier %1, which no province has"},
+    {Text::problem_no_id_map, "problem_no_id_map",
+     "places were not checked, since the ID map cannot be read whole: %2"},
 }}};
 
 namespace {

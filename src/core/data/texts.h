@@ -296,8 +296,9 @@ enum class Text {
     problem_not_on_map,
     problem_not_in_file,
     problem_colour,
+    problem_no_id_map,
 
-    last = problem_colour,
+    last = problem_no_id_map,
 };
 
 /// A text's record in the language file is "TEXTE_key","text".

@@ -18,7 +18,7 @@ void BandedStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
                                      QPainter* painter, const QWidget* widget) const {
     const QRect bar = option->rect;
     const qreal scale = painter->device()->devicePixelRatioF();
-    const int band_height = static_cast<int>(most_rows / scale);
+    const int band_height = static_cast<int>(most_rows / scale) & ~3; // whole pixels of the screen
     QPixmap band(QSize(bar.width(), band_height) * scale);
     band.setDevicePixelRatio(scale);
     for (int top = bar.top(); top <= bar.bottom(); top += band_height) {

@@ -4,14 +4,6 @@
 
 namespace map {
 
-namespace {
-
-std::span<Pixel> row_of(QImage& image, int row, int width) {
-    return {reinterpret_cast<Pixel*>(image.scanLine(row)), static_cast<std::size_t>(width)};
-}
-
-} // namespace
-
 ColouredStrips::ColouredStrips(const MapImage& map, const MapImage& id_map,
                                std::shared_ptr<const FieldColours> colours)
     : map_(map), id_map_(id_map), colours_(std::move(colours)) {}

@@ -23,7 +23,7 @@ class ColouredStrips : public StripReader {
     MapReader map_;
     MapReader id_map_;
     std::shared_ptr<const FieldColours> colours_;
-    QImage ids_; // kept from one strip to the next
+    QImage ids_; // kept from one read to the next
 };
 
 } // namespace map

@@ -56,10 +56,6 @@ bool read_at(QFile& file, std::uint64_t begin, std::span<char> bytes) {
     return file.seek(static_cast<qint64>(begin)) && file.read(bytes.data(), size) == size;
 }
 
-std::span<Pixel> row_of(QImage& image, int row, int width) {
-    return {reinterpret_cast<Pixel*>(image.scanLine(row)), static_cast<std::size_t>(width)};
-}
-
 /// Fills `means` with the means of the pixels 2 i and 2 i + 1 of both rows.
 void mean_of_four(std::span<const Pixel> upper, std::span<const Pixel> lower,
                   std::span<Pixel> means) {

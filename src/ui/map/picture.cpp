@@ -5,6 +5,7 @@
 
 #include <QPaintEvent>
 #include <QPainter>
+#include <QThread>
 
 #include <utility>
 
@@ -34,11 +35,10 @@ void Picture::paintEvent(QPaintEvent* event) {
     const auto open = [this] { return open_strips_(image_); };
     std::optional<data::Place> reason;
     for (const QRect& exposed : event->region()) {
-        for (const Strip& strip : read_strips(exposed, level_, open)) {
-            painter.drawImage(strip.shown.topLeft(), strip.image);
-            if (!reason)
-                reason = strip.problem;
-        }
+        auto part = read_strips(exposed, level_, QThread::idealThreadCount(), open);
+        painter.drawImage(exposed.topLeft(), part.image);
+        if (!reason)
+            reason = std::move(part.problem);
     }
     draw_above_(painter, event->region());
     if (reason)

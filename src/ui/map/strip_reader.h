@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/place.h"
+#include "map/bitmap_file.h"
 #include "map/zoom_level.h"
 
 #include <QImage>
@@ -9,6 +10,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 
 namespace map {
 
@@ -29,6 +31,11 @@ class StripReader {
     /// Returns why something could not be read, with the file; nothing while all could.
     virtual const std::optional<data::Place>& problem() const = 0;
 };
+
+/// Returns the row's first pixels of a 32-bit RGB image.
+inline std::span<Pixel> row_of(QImage& image, int row, int width) {
+    return {reinterpret_cast<Pixel*>(image.scanLine(row)), static_cast<std::size_t>(width)};
+}
 
 /// Opens what is to be shown of the map for one painting; never null. Several threads call it at
 /// once.

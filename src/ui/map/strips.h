@@ -10,21 +10,19 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <vector>
 
 namespace map {
 
-/// A part of what a surface shows, from its left to its right edge.
-struct Strip {
-    QRect shown; // shown pixels
+/// A part of what a surface shows.
+struct ShownPart {
     QImage image;
-    std::optional<data::Place> problem; // why something of it could not be read, with the file
+    std::optional<data::Place> problem; // of the uppermost strip that could not be read whole
 };
 
-/// Reads the rectangle (shown pixels, inside the surface) at the level, from the top down. A large
-/// one is read in several strips at a time, `open` being called for each of them, by a thread of
-/// its own but for the first.
-std::vector<Strip> read_strips(const QRect& shown, ZoomLevel level,
-                               const std::function<std::unique_ptr<StripReader>()>& open);
+/// Reads the rectangle (shown pixels, inside the surface) at the level. A large one is read in
+/// strips, at most so many at once; `open` is called for each, by a thread of its own but for the
+/// first.
+ShownPart read_strips(const QRect& shown, ZoomLevel level, int at_once,
+                      const std::function<std::unique_ptr<StripReader>()>& open);
 
 } // namespace map

@@ -15,8 +15,8 @@ Etat::Etat(const Session& session, QWidget* parent)
     setObjectName(QStringLiteral("état"));
 }
 
-QSize Etat::sizeHint() const {
-    constexpr int part = 5;
+/// Returns the size of the words, but at most that part of the status bar's width.
+QSize Etat::at_most(int part) const {
     const QSize whole = ElidedLabel::sizeHint();
     return {std::min(whole.width(), parentWidget()->width() / part), whole.height()};
 }
@@ -38,12 +38,16 @@ QString Etat::words() const {
     // What matters most in the mode comes first: the end may not fit.
     if (session_.mode != map::Mode::normal)
         parts += lacking();
-    if (selected == 0)
-        parts += base::own_text(language, Text::etat_none_selected);
-    else
+    if (selected == 0) {
+        QString none = base::own_text(language, Text::etat_none_selected);
+        if (!parts.empty())
+            none[0] = none[0].toLower();
+        parts += none;
+    } else {
         parts +=
             base::own_text(language, selected == 1 ? Text::etat_one_selected : Text::etat_selected,
                            QString::number(selected));
+    }
     if (session_.provinces.has_unsaved_changes())
         parts += base::own_text(language, Text::etat_unsaved);
     return parts.join(QStringLiteral(", "));

@@ -22,10 +22,10 @@ class Etat : public base::ElidedLabel {
     /// Leaves out, for as long as the places exist, the provinces that the map lacks.
     void count_on_map(const map::ProvincePlaces& places) { places_ = &places; }
 
-    /// Returns the size of the words, but at most a part of the status bar: the label insists on
-    /// that, and what lies beyond is elided where there is no more room.
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    /// Returns the size of the words, but at most a third of the status bar; the label insists on
+    /// an eighth, and what lies beyond is elided where there is no more room.
+    QSize sizeHint() const override { return at_most(3); }
+    QSize minimumSizeHint() const override { return at_most(8); }
 
     /// Looks whether something of this has changed; cheap where nothing has.
     void look();
@@ -40,6 +40,7 @@ class Etat : public base::ElidedLabel {
         friend bool operator==(const State&, const State&) = default;
     };
 
+    QSize at_most(int part) const;
     QString words() const;
     QString lacking() const;
 

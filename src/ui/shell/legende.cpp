@@ -7,7 +7,11 @@
 
 #include <QHeaderView>
 #include <QPainter>
+#include <QScrollBar>
 #include <QTreeWidget>
+
+#include <algorithm>
+#include <utility>
 
 namespace shell {
 
@@ -46,7 +50,8 @@ Legende::Legende(const Session& session, QWidget* owner)
     list_->setToolTip(base::own_text(session.language, Text::legend_tip));
     setWidget(list_);
     const auto choose = [this](QTreeWidgetItem* item) {
-        emit chosen(provinces_.at(static_cast<std::size_t>(list_->indexOfTopLevelItem(item))));
+        emit chosen(
+            classes_.at(static_cast<std::size_t>(list_->indexOfTopLevelItem(item))).provinces);
     };
     connect(list_, &QTreeWidget::itemClicked, this, choose);
     connect(list_, &QTreeWidget::itemActivated, this, choose);
@@ -58,24 +63,32 @@ void Legende::show_classes(const editor::Field& field, const QString& name,
         list_->clear();
     setWindowTitle(name);
     list_->setAccessibleName(name);
-    const auto* before = list_->currentItem();
-    const QString current = before != nullptr ? before->text(text_column) : QString();
+    const auto before = std::exchange(classes_, {classes.begin(), classes.end()});
+    const int current = list_->indexOfTopLevelItem(list_->currentItem());
     const int swatch_size = fontMetrics().ascent();
-    provinces_.clear();
-    for (const auto& colour_class : classes) {
-        auto* item = list_->topLevelItem(static_cast<int>(provinces_.size()));
+    for (const auto& colour_class : classes_) {
+        auto* item = list_->topLevelItem(static_cast<int>(&colour_class - classes_.data()));
         if (item == nullptr)
             item = new QTreeWidgetItem(list_);
         item->setText(text_column, base::caption_text(text_of(field, colour_class)));
         item->setText(count_column, QString::number(colour_class.provinces.size()));
         item->setIcon(text_column, swatch(colour_class.colour, swatch_size));
         item->setTextAlignment(count_column, Qt::AlignRight | Qt::AlignVCenter);
-        provinces_.push_back(colour_class.provinces);
     }
-    while (list_->topLevelItemCount() > static_cast<int>(classes.size()))
+    while (list_->topLevelItemCount() > static_cast<int>(classes_.size()))
         delete list_->takeTopLevelItem(list_->topLevelItemCount() - 1);
-    // The entry may stand in another row now, or nowhere.
-    list_->setCurrentItem(list_->findItems(current, Qt::MatchExactly, text_column).value(0));
+    if (current >= 0)
+        make_current(before[static_cast<std::size_t>(current)]);
+}
+
+/// The class may stand in another row than before, or nowhere; the list stays where it is.
+void Legende::make_current(const map::ColourClass& before) {
+    const auto found = std::find_if(classes_.begin(), classes_.end(), [&](const auto& now) {
+        return now.kind == before.kind && now.value == before.value;
+    });
+    const int scrolled = list_->verticalScrollBar()->value();
+    list_->setCurrentItem(list_->topLevelItem(static_cast<int>(found - classes_.begin())));
+    list_->verticalScrollBar()->setValue(scrolled);
 }
 
 std::string Legende::text_of(const editor::Field& field,

@@ -38,12 +38,13 @@ class Legende : public QDockWidget {
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    void make_current(const map::ColourClass& before);
     std::string text_of(const editor::Field& field, const map::ColourClass& colour_class) const;
     std::string shown_code(const editor::Field& field, const std::string& code) const;
 
     const Session& session_;
     QTreeWidget* list_;
-    std::vector<std::vector<int>> provinces_; // by row of the list
+    std::vector<map::ColourClass> classes_; // by row of the list
 };
 
 } // namespace shell

@@ -143,20 +143,21 @@ void MDIForm1::build_status_bar() {
     statusBar()->setObjectName(QStringLiteral("Bar"));
     mode_text_ = new base::ElidedLabel(statusBar());
     mode_text_->setObjectName(QStringLiteral("Bar(1)"));
+    mode_text_->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);
     notice_ = new Notice(statusBar());
     pointer_text_ = new QLabel(statusBar());
     pointer_text_->setObjectName(QStringLiteral("Bar(2)"));
     etat_ = new Etat(session_, statusBar());
     etat_->look();
-    pointed_name_ = new base::ElidedLabel(statusBar());
+    pointed_name_ = new base::ElidedLabel(statusBar(), Qt::ElideMiddle);
     pointed_name_->setObjectName(QStringLiteral("nom"));
-    // Its width hangs on the window's alone: the others are not to move whenever the pointer does.
+    // Its width does not hang on its text: the others are not to move whenever the pointer does.
     pointed_name_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     pointed_name_->setMinimumWidth(fontMetrics().averageCharWidth() * name_width);
-    // A permanent widget is never covered; three of them share the room that the others leave.
+    // A permanent widget is never covered; the notice has the room that the others leave.
     statusBar()->addPermanentWidget(mode_text_);
-    statusBar()->addPermanentWidget(notice_, 2);
-    statusBar()->addPermanentWidget(etat_, 2);
+    statusBar()->addPermanentWidget(notice_, 3);
+    statusBar()->addPermanentWidget(etat_);
     statusBar()->addPermanentWidget(pointed_name_, 1);
     statusBar()->addPermanentWidget(pointer_text_);
     pointer_text_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("id = 00000")));

@@ -106,12 +106,17 @@ std::vector<Problem> MDIForm1::problems() const {
     if (map_) {
         map::MapReader reader(map_->id_map());
         const QSize size = map_->id_map().size();
-        add(check_places(session_.provinces, session_.language,
-                         {size.width(), size.height(), session_.maps, map_->index(),
-                          [&reader](int x, int y) {
-                              return reader.province_at({x, y});
-                          }},
-                         {}));
+        auto hints = check_places(session_.provinces, session_.language,
+                                  {size.width(), size.height(), session_.maps, map_->index(),
+                                   [&reader](int x, int y) {
+                                       return reader.province_at({x, y});
+                                   }},
+                                  {});
+        const auto& unread = map_->places().problem();
+        if (const auto& problem = unread ? unread : reader.problem())
+            // What cannot be read would seem to be of no province, thousands of times.
+            hints = {{.what = Text::problem_no_id_map, .detail = session_.language.text(*problem)}};
+        add(std::move(hints));
     }
     return found;
 }

@@ -154,7 +154,7 @@ void MDIForm1::zoom_tout() {
 void MDIForm1::montrer() {
     auto* map = seen_map_window();
     if (map && !map->montrer())
-        tell(base::own_text(session_.language, Text::notice_selection_not_on_map));
+        tell_none_found(*map, Text::notice_selection_not_on_map);
 }
 
 void MDIForm1::suivante() {
@@ -166,7 +166,13 @@ void MDIForm1::suivante() {
                             QString::number(*province), name_of(*province))
                  .trimmed());
     else
-        tell(base::own_text(session_.language, Text::notice_none_lacks));
+        tell_none_found(*map, Text::notice_none_lacks);
+}
+
+void MDIForm1::tell_none_found(const map::Form1& map, Text text) {
+    const auto& unread = map.places().problem();
+    tell(unread ? base::message_text(session_.language.text(*unread))
+                : base::own_text(session_.language, text));
 }
 
 QString MDIForm1::name_of(int province) const {

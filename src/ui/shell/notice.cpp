@@ -8,12 +8,14 @@ namespace {
 
 constexpr std::chrono::seconds shown_for(15);
 constexpr int distance = 12; // pixels, to the texts beside it
+constexpr int least = 100;   // pixels, however long the other texts are
 
 } // namespace
 
 Notice::Notice(QWidget* parent) : base::ElidedLabel(parent, Qt::ElideMiddle) {
     setObjectName(QStringLiteral("notice"));
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    setMinimumWidth(least);
     setContentsMargins(distance, 0, distance, 0);
     time_.setObjectName(QStringLiteral("time"));
     time_.setSingleShot(true);

@@ -30,12 +30,13 @@ std::unique_ptr<QLockFile> lock_of(const std::string& copy) {
     return lock;
 }
 
-/// A lock that names no program holds nothing: a power cut can leave an empty one, and no program
-/// would ever take it away.
+/// A lock that can be read and names no program holds nothing: a power cut can leave an empty one,
+/// and no program would ever take it away.
 bool is_held(const std::string& copy) {
     const auto lock = lock_of(copy);
     return !lock->tryLock(0) && lock->error() == QLockFile::LockFailedError &&
-           lock->getLockInfo(nullptr, nullptr, nullptr);
+           (lock->getLockInfo(nullptr, nullptr, nullptr) ||
+            !QFileInfo(lock->fileName()).isReadable());
 }
 
 /// Writes the bytes under the first free name of the folder and returns its stored path; `lock`,

@@ -24,8 +24,8 @@ void read_configuration_file(const std::string& path, Session& session, SpriteSe
     }
 }
 
-/// What is wrong with the configuration is told in the language that it names, where it can be
-/// read.
+/// What is wrong with the configuration is told in the language that its lines so far name, where
+/// that can be read.
 void take_language_so_far(Session& session) {
     try {
         session.language = read_language_file(session, session.configuration.language_file);

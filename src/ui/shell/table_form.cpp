@@ -132,7 +132,9 @@ void TableForm::show_rows(std::vector<Row> rows, const QString& count) {
         list_->setColumnWidth(column, std::min(wanted, widest_column));
         needed += std::min(wanted, widest_column);
     }
-    resize(std::min(std::max(width(), needed), screen()->availableSize().width()), height());
+    const int frame = frameGeometry().width() - width();
+    const int widest = screen()->availableSize().width() - frame;
+    resize(std::min(std::max(width(), needed), widest), height());
 }
 
 std::vector<std::size_t> TableForm::chosen() const {

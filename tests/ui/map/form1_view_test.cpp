@@ -158,14 +158,13 @@ TEST_F(Form1, IsPaintedOnceWhenItMovesAndChanges) {
     EXPECT_TRUE(painted.region.contains(QPoint(300, 200)));
 }
 
-TEST_F(Form1, ScrollBarsLookLikeThoseOfTheProgram) {
+TEST_F(Form1, TheUprightScrollBarLooksLikeThoseOfTheProgram) {
     open({400, 300});
     form->view().centre_on({300, 200});
-    for (QScrollBar* bar : {form->view().horizontalScrollBar(), form->view().verticalScrollBar()}) {
-        const QImage seen = bar->grab().toImage();
-        bar->setStyle(QApplication::style());
-        EXPECT_EQ(seen, bar->grab().toImage());
-    }
+    QScrollBar* bar = form->view().verticalScrollBar();
+    const QImage banded = bar->grab().toImage();
+    bar->setStyle(QApplication::style());
+    EXPECT_EQ(banded, bar->grab().toImage());
 }
 
 TEST_F(Form1, MiddleDragScrollsAndIsNoClick) {

@@ -1,7 +1,9 @@
 #include "support/bitmaps.h"
 #include "support/main_frame.h"
 
+#include <QLabel>
 #include <QMdiSubWindow>
+#include <QTableView>
 
 /// The map window within the main frame.
 namespace {
@@ -100,6 +102,19 @@ TEST_F(MapInFrame, DrawingsGoOffWithTheirArt) {
     session.configuration.terrain_art_flag = 0;
     frame->enter_mode(map::Mode::normal);
     EXPECT_FALSE(action("dessin_graph").isEnabled() || action("dessin_graph").isChecked());
+}
+
+TEST_F(MapInFrame, AnUnreadableIdMapIsTheReasonWhyNothingIsFound) {
+    start();
+    frame->open_maps();
+    folder.write("id.bmp", folder.read("id.bmp").substr(0, 1000));
+    press_key(Qt::Key_K, Qt::ControlModifier);
+    auto& list = control<QTableView>("problèmes");
+    ASSERT_EQ(list.model()->rowCount(), 1);
+    EXPECT_TRUE(list.model()->index(0, 3).data().toString().startsWith("places were not checked"));
+    press_key(Qt::Key_F3);
+    press_key(Qt::Key_F9);
+    EXPECT_TRUE(control<QLabel>("notice").text().contains("id.bmp"));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "map/map_image.h"
 #include "map/picture.h"
+#include "map/strips.h"
 #include "support/bitmaps.h"
 #include "support/folder.h"
 
@@ -62,6 +63,30 @@ TEST(Picture, PaintsEveryPixelOfWhatIsExposedAtEveryLevel) {
                 }
             }
         }
+    }
+}
+
+/// Cannot read what lies below row 150.
+struct FaultyBelow : map::StripReader {
+    void read(const QRect& shown, ZoomLevel, QImage& target) override {
+        target.fill(static_cast<uint>(shown.top()));
+        if (shown.bottom() > 150 && !reason)
+            reason = data::Phrase(std::to_string(shown.top()));
+    }
+    const std::optional<data::Place>& problem() const override { return reason; }
+    std::optional<data::Place> reason;
+};
+
+TEST(Strips, AreReadBySeveralThreadsWithoutAGap) {
+    for (int at_once = 1; at_once <= 5; ++at_once) {
+        const auto part = map::read_strips({0, 10, 3, 300}, {}, at_once,
+                                           [] { return std::make_unique<FaultyBelow>(); });
+        for (int y = 0; y < 300; ++y) {
+            const int row = static_cast<int>(part.image.pixel(2, y) & 0xFFFFFF);
+            ASSERT_TRUE(row <= y + 10 && row > y + 10 - 32) << y << ' ' << at_once;
+        }
+        ASSERT_TRUE(part.problem);
+        EXPECT_LE(std::stoi(part.problem->in_english()), 151) << "the uppermost strip's";
     }
 }
 

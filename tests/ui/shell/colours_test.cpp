@@ -92,6 +92,11 @@ TEST_F(Colours, TheMapShowsAFieldAndTheLegendSelects) {
         QTest::keyClick(&list(), Qt::Key_Down);
     QTest::keyClick(&list(), Qt::Key_Return);
     EXPECT_EQ(selection_text(), "1-4;7-2018");
+    select("6");
+    click("religion(5)");
+    ASSERT_EQ(list().selectedItems().size(), 1);
+    EXPECT_EQ(list().selectedItems().front()->text(0), "No value") << "it has moved on a row";
+    click("religion(4)");
 
     colour_by("colorer(0)");
     EXPECT_FALSE(control<QDockWidget>("légende").isVisible());
