@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::chrono::seconds shown_for(15);
 constexpr int distance = 12; // pixels, to the texts beside it
-constexpr int least = 100;   // pixels, however long the other texts are
+constexpr int least = 150;   // pixels, however long the other texts are
 
 } // namespace
 
