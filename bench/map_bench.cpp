@@ -4,6 +4,7 @@
 #include "map/map_image.h"
 #include "map/map_view.h"
 #include "map/province_places.h"
+#include "map/strips.h"
 #include "map_colours.h"
 #include "shell/session.h"
 
@@ -12,6 +13,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <array>
 #include <benchmark/benchmark.h>
@@ -196,7 +198,7 @@ void give_cultures(data::ProvinceTable& provinces, int first) {
 void paint_a_random_place_coloured(benchmark::State& state) {
     const auto session = session_with_maps();
     give_cultures(session->provinces, 0);
-    const auto window = shown_window(*session);
+    const auto window = ready_window(*session);
     window->colour(colours_by_culture(session->provinces));
     paint_random_places(state, *window);
 }
@@ -239,17 +241,16 @@ BENCHMARK(zoom_step_to_painted)
 void read_a_view(benchmark::State& state) {
     const map::MapImage image(world().maps().map_1_path);
     const map::ZoomLevel level(static_cast<int>(state.range(0)));
-    QImage strip(view.width(), 32, QImage::Format_RGB32);
     const QRect map(0, 0, level.shown_length(map_width), level.shown_length(map_height));
     RandomPlace place;
     for ([[maybe_unused]] auto _ : state) {
         const QPoint corner =
             map.contains(QRect({0, 0}, view)) ? place.next() / level.step() : QPoint();
         const QRect shown = QRect(corner, view) & map;
-        map::MapReader reader(image);
-        for (int y = shown.top(); y <= shown.bottom(); y += strip.height())
-            reader.read(QRect(shown.left(), y, shown.width(), strip.height()) & shown, level,
-                        strip);
+        map::MapReader first(image);
+        const auto part = map::read_strips(shown, level, QThread::idealThreadCount(), first,
+                                           [&] { return std::make_unique<map::MapReader>(image); });
+        benchmark::DoNotOptimize(part.image.constBits());
     }
 }
 BENCHMARK(read_a_view)->Apply(all_levels);

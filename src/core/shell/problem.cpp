@@ -6,7 +6,10 @@
 namespace shell {
 
 std::string text_of(const Problem& problem, const LanguageTexts& language) {
-    return language.text(problem.what, {problem.value, problem.detail});
+    const std::string what = language.text(problem.what, {problem.value, problem.detail});
+    if (!problem.is_hint)
+        return what;
+    return language.text(Text::place_reason, {language.text(Text::controle_hint), what});
 }
 
 std::string shown_column(data::FileColumn column) {
@@ -35,8 +38,6 @@ std::string printed_line(const Problem& problem, std::string_view file,
         text += shown_column(*problem.column);
     if (problem.province > 0 || problem.column)
         text += ": ";
-    if (problem.is_hint)
-        text += language.text(Text::controle_hint) + ": ";
     return on_one_line(text + text_of(problem, language));
 }
 

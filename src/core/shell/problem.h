@@ -25,7 +25,7 @@ struct Problem {
     bool is_hint = false;    // it may be meant so
 };
 
-/// Returns what is wrong, in the user's language.
+/// Returns what is wrong, in the user's language, and of a hint that it is one.
 std::string text_of(const Problem& problem, const LanguageTexts& language);
 
 /// Returns "N (header)" for the column, "N" for one without a header.

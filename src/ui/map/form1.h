@@ -60,7 +60,7 @@ class Form1 : public QWidget {
     void graphics_changed();
 
     /// Returns where the provinces lie on the ID map.
-    const ProvincePlaces& places() const { return places_; }
+    ProvincePlaces& places() { return places_; }
 
     /// Returns the index of the places, after reading what it lacks.
     const ProvinceIndex& index() { return places_.index(); }

@@ -33,9 +33,10 @@ void Picture::show_strips(OpenStrips open) {
 void Picture::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     const auto open = [this] { return open_strips_(image_); };
+    const auto first = open();
     std::optional<data::Place> reason;
     for (const QRect& exposed : event->region()) {
-        auto part = read_strips(exposed, level_, QThread::idealThreadCount(), open);
+        auto part = read_strips(exposed, level_, QThread::idealThreadCount(), *first, open);
         painter.drawImage(exposed.topLeft(), part.image);
         if (!reason)
             reason = std::move(part.problem);

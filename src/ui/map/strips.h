@@ -20,9 +20,9 @@ struct ShownPart {
 };
 
 /// Reads the rectangle (shown pixels, inside the surface) at the level. A large one is read in
-/// strips, at most so many at once; `open` is called for each, by a thread of its own but for the
-/// first.
-ShownPart read_strips(const QRect& shown, ZoomLevel level, int at_once,
+/// strips, at most so many at once: the uppermost by `first`, each other one by a thread of its
+/// own, which calls `open`.
+ShownPart read_strips(const QRect& shown, ZoomLevel level, int at_once, StripReader& first,
                       const std::function<std::unique_ptr<StripReader>()>& open);
 
 } // namespace map

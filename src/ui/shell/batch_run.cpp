@@ -6,10 +6,9 @@
 #include "base/stored_path.h"
 #include "data/province_file.h"
 #include "data/run_time_error.h"
-#include "map/province_places.h"
 #include "shell/backups.h"
 #include "shell/file_check.h"
-#include "shell/place_check.h"
+#include "shell/map_check.h"
 #include "shell/program_folder.h"
 #include "shell/read_report.h"
 #include "shell/session.h"
@@ -91,18 +90,7 @@ std::vector<Problem> check_maps(const Session& session, const map::Maps& maps,
     }
     const map::MapImage image(maps.id_map_path);
     map::ProvincePlaces places(image);
-    map::MapReader reader(image);
-    auto problems = check_places(session.provinces, session.language,
-                                 {image.size().width(), image.size().height(), maps, places.index(),
-                                  [&](int x, int y) {
-                                      return reader.province_at({x, y});
-                                  }},
-                                 lines);
-    for (const auto& problem : {places.problem(), reader.problem()}) {
-        if (problem)
-            throw data::RunTimeError(data::ErrorNumber::path_file_access, *problem);
-    }
-    return problems;
+    return check_on_map(session, maps, image, places, lines);
 }
 
 /// Prints what is wrong with the file's bytes and the table that has them. Returns whether

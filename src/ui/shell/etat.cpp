@@ -39,10 +39,8 @@ QString Etat::words() const {
     if (session_.mode != map::Mode::normal)
         parts += lacking();
     if (selected == 0) {
-        QString none = base::own_text(language, Text::etat_none_selected);
-        if (!parts.empty())
-            none[0] = none[0].toLower();
-        parts += none;
+        const QString none = base::own_text(language, Text::etat_none_selected);
+        parts += parts.empty() ? none : none.left(1).toLower() + none.mid(1);
     } else {
         parts +=
             base::own_text(language, selected == 1 ? Text::etat_one_selected : Text::etat_selected,

@@ -31,17 +31,13 @@ Form_controle::Form_controle(const Session& session, Check check, QWidget* owner
 void Form_controle::refresh() {
     problems_ = check_();
     const auto& language = session().language;
-    const std::string hint = language.text(Text::controle_hint);
     std::vector<Row> rows;
     rows.reserve(problems_.size());
     for (const auto& problem : problems_) {
-        std::string what = text_of(problem, language);
-        if (problem.is_hint)
-            what = language.text(Text::place_reason, {hint, what});
         rows.push_back(
             {problem.province > 0 ? QVariant(problem.province) : QVariant(QString()),
              base::to_qstring(problem.column ? shown_column(*problem.column) : std::string()),
-             base::to_qstring(problem.value), base::to_qstring(what)});
+             base::to_qstring(problem.value), base::to_qstring(text_of(problem, language))});
     }
     const auto hints = std::count_if(problems_.begin(), problems_.end(),
                                      [](const Problem& problem) { return problem.is_hint; });

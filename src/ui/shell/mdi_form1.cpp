@@ -154,7 +154,7 @@ void MDIForm1::build_status_bar() {
     // Its width does not hang on its text: the others are not to move whenever the pointer does.
     pointed_name_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     pointed_name_->setMinimumWidth(fontMetrics().averageCharWidth() * name_width);
-    // A permanent widget is never covered; the notice has the room that the others leave.
+    // A permanent widget is never covered; most of the room that the others leave is the notice's.
     statusBar()->addPermanentWidget(mode_text_);
     statusBar()->addPermanentWidget(notice_, 3);
     statusBar()->addPermanentWidget(etat_);

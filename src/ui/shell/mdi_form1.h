@@ -117,7 +117,7 @@ class MDIForm1 : public QMainWindow {
 
     /// Shows what happened in the status bar for a while.
     void tell(const QString& notice);
-    void tell_none_found(const map::Form1& map, Text text);
+    void tell_none_found(map::Form1& map, Text text);
 
     /// Looks after every event whether the state and the colours still hold.
     void look();

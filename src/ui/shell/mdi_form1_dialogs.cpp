@@ -1,11 +1,12 @@
 #include "base/messages.h"
+#include "data/run_time_error.h"
 #include "editor/panneau.h"
 #include "shell/form_controle.h"
 #include "shell/form_guide.h"
 #include "shell/form_modifications.h"
 #include "shell/form_recherche.h"
+#include "shell/map_check.h"
 #include "shell/mdi_form1.h"
-#include "shell/place_check.h"
 #include "shell/value_check.h"
 
 #include <QScreen>
@@ -103,20 +104,12 @@ std::vector<Problem> MDIForm1::problems() const {
                      std::make_move_iterator(more.end()));
     };
     add(check_values(session_.provinces, session_.language, {}));
-    if (map_) {
-        map::MapReader reader(map_->id_map());
-        const QSize size = map_->id_map().size();
-        auto hints = check_places(session_.provinces, session_.language,
-                                  {size.width(), size.height(), session_.maps, map_->index(),
-                                   [&reader](int x, int y) {
-                                       return reader.province_at({x, y});
-                                   }},
-                                  {});
-        const auto& unread = map_->places().problem();
-        if (const auto& problem = unread ? unread : reader.problem())
-            // What cannot be read would seem to be of no province, thousands of times.
-            hints = {{.what = Text::problem_no_id_map, .detail = session_.language.text(*problem)}};
-        add(std::move(hints));
+    try {
+        if (map_)
+            add(check_on_map(session_, session_.maps, map_->id_map(), map_->places(), {}));
+    } catch (const data::RunTimeError& error) {
+        found.push_back(
+            {.what = Text::problem_no_id_map, .detail = session_.language.text(error.place())});
     }
     return found;
 }

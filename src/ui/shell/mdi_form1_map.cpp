@@ -169,7 +169,7 @@ void MDIForm1::suivante() {
         tell_none_found(*map, Text::notice_none_lacks);
 }
 
-void MDIForm1::tell_none_found(const map::Form1& map, Text text) {
+void MDIForm1::tell_none_found(map::Form1& map, Text text) {
     const auto& unread = map.places().problem();
     tell(unread ? base::message_text(session_.language.text(*unread))
                 : base::own_text(session_.language, text));

@@ -79,7 +79,8 @@ struct FaultyBelow : map::StripReader {
 
 TEST(Strips, AreReadBySeveralThreadsWithoutAGap) {
     for (int at_once = 1; at_once <= 5; ++at_once) {
-        const auto part = map::read_strips({0, 10, 3, 300}, {}, at_once,
+        FaultyBelow first;
+        const auto part = map::read_strips({0, 10, 3, 300}, {}, at_once, first,
                                            [] { return std::make_unique<FaultyBelow>(); });
         for (int y = 0; y < 300; ++y) {
             const int row = static_cast<int>(part.image.pixel(2, y) & 0xFFFFFF);

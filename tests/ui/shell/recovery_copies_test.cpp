@@ -56,7 +56,9 @@ TEST_F(RecoveryCopies, FollowTheChangesAndGoWithASave) {
     copies.update();
     EXPECT_EQ(copies_in_folder(), QStringList("recovered.csv"));
     EXPECT_EQ(name_in(folder, "recovered.csv", 5), "second");
+    write(5, "third");
     copies.keep_another();
+    EXPECT_EQ(name_in(folder, "recovered.csv", 5), "third") << "the run's own is up to date, too";
     session.provinces.mark_saved();
     copies.remove_own();
     copies.update();
