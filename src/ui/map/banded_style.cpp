@@ -8,9 +8,16 @@ namespace map {
 
 namespace {
 
-// Qt hands what is drawn over 96 rows or more out to threads, one line at a time: for a bar as high
-// as a window, waking them takes longer than painting the map beside it.
-constexpr int most_rows = 95; // pixels of the screen
+// Qt hands what it draws in 96 pieces or more out to threads, one line at a time: for a bar as long
+// as a window, waking them takes longer than painting the map beside it. A piece is a row of an
+// edge, at a scale of one a pixel of it; an outline has two edges, and ends.
+constexpr int most_pixels = 40; // of the screen
+
+/// Returns the size of the parts of a bar that are drawn alone.
+QSize size_of_band(QSize bar, qreal scale) {
+    const int length = static_cast<int>(most_pixels / scale) & ~3; // whole pixels of the screen
+    return bar.boundedTo({scale == 1 ? length : bar.width(), length});
+}
 
 } // namespace
 
@@ -18,15 +25,17 @@ void BandedStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
                                      QPainter* painter, const QWidget* widget) const {
     const QRect bar = option->rect;
     const qreal scale = painter->device()->devicePixelRatioF();
-    const int band_height = static_cast<int>(most_rows / scale) & ~3; // whole pixels of the screen
-    QPixmap band(QSize(bar.width(), band_height) * scale);
+    const QSize size = size_of_band(bar.size(), scale);
+    QPixmap band(size * scale);
     band.setDevicePixelRatio(scale);
-    for (int top = bar.top(); top <= bar.bottom(); top += band_height) {
-        band.fill(Qt::transparent);
-        QPainter band_painter(&band);
-        band_painter.translate(-bar.left(), -top);
-        QProxyStyle::drawComplexControl(control, option, &band_painter, widget);
-        painter->drawPixmap(bar.left(), top, band);
+    for (int top = bar.top(); top <= bar.bottom(); top += size.height()) {
+        for (int left = bar.left(); left <= bar.right(); left += size.width()) {
+            band.fill(Qt::transparent);
+            QPainter band_painter(&band);
+            band_painter.translate(-left, -top);
+            QProxyStyle::drawComplexControl(control, option, &band_painter, widget);
+            painter->drawPixmap(left, top, band);
+        }
     }
 }
 

@@ -4,7 +4,7 @@
 
 namespace map {
 
-/// Draws an upright scroll bar as the program's style does, at little cost however high it is, so
+/// Draws a scroll bar as the program's style does, at little cost however long it is, so
 /// that scrolling a map stays light.
 class BandedStyle : public QProxyStyle {
     Q_OBJECT

@@ -27,7 +27,8 @@ MapView::MapView(QWidget* parent) : QScrollArea(parent), surfaces_(new QWidget) 
     verticalScrollBar()->setSingleStep(scroll_step);
     auto* style = new BandedStyle;
     style->setParent(this);
-    verticalScrollBar()->setStyle(style);
+    for (QScrollBar* bar : {verticalScrollBar(), horizontalScrollBar()})
+        bar->setStyle(style);
     // The visible surface covers it. Only this one is said to be opaque, and only this one is
     // updated: Qt paints each opaque widget that is to be painted alone, so that what scrolling
     // uncovers would be painted twice.
