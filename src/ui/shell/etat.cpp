@@ -4,6 +4,7 @@
 #include "map/lacking_positions.h"
 #include "shell/place_check.h"
 
+#include <QEvent>
 #include <QStringList>
 
 #include <algorithm>
@@ -13,6 +14,13 @@ namespace shell {
 Etat::Etat(const Session& session, QWidget* parent)
     : base::ElidedLabel(parent), session_(session), sea_code_(sea_code(session.language)) {
     setObjectName(QStringLiteral("état"));
+    parent->installEventFilter(this);
+}
+
+bool Etat::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::Resize)
+        updateGeometry(); // layouts keep the hints that they were given
+    return ElidedLabel::eventFilter(object, event);
 }
 
 /// Returns the size of the words, but at most that part of the status bar's width.

@@ -30,6 +30,9 @@ class Etat : public base::ElidedLabel {
     /// Looks whether something of this has changed; cheap where nothing has.
     void look();
 
+  protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
   private:
     struct State {
         std::uint64_t selection_version;

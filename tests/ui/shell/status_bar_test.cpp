@@ -80,6 +80,9 @@ TEST_F(StatusBar, WhatItAlwaysToldIsNeverCoveredNorSqueezed) {
     for (const auto* language : {"english.lng", "french.lng"}) {
         start_in(language);
         frame->resize(1280, 720);
+        QCoreApplication::processEvents();
+        const auto& state = control<QLabel>("état");
+        EXPECT_GE(state.width(), state.fontMetrics().horizontalAdvance(state.text()));
         select(QStringLiteral("1-2018"));
         enter("nom_province", QString(100, 'x'));
         frame->tell(QString(500, 'x'));
