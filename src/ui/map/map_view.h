@@ -33,6 +33,9 @@ class MapView : public QScrollArea {
     /// Makes the map the visible one; one that was not added cannot be chosen.
     void show_map(ShownMap which);
 
+    /// Gives the shown map the keyboard.
+    void take_focus() { shown_picture()->setFocus(); }
+
     /// Shows on all surfaces what that opens, in the place of the maps alone.
     void show_strips(const OpenStrips& open);
 

@@ -8,6 +8,7 @@
 #include "gfx/form2.h"
 #include "gfx/form3.h"
 #include "map/identification.h"
+#include "map/map_view.h"
 #include "shell/frm_about.h"
 #include "shell/mdi_form1.h"
 
@@ -81,9 +82,13 @@ void MDIForm1::enter_mode(map::Mode mode) {
     if (mode != map::Mode::normal)
         panel_->forget_shown(); // to be hidden with the focus is not to be left
     enable_place_items();
+    const bool panel_had_focus = panel_->isAncestorOf(focusWidget());
     panel_->setVisible(mode == map::Mode::normal);
-    if (auto* map = map_window())
+    if (auto* map = map_window()) {
+        if (panel_had_focus && mode != map::Mode::normal)
+            map->view().take_focus(); // not the legend: one places now
         map->selection_or_mode_changed();
+    }
     if (mode == map::Mode::normal) {
         panel_->show_selection(); // clicks in the mode that ends may have moved what it shows
         options();
