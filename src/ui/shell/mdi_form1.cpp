@@ -22,6 +22,7 @@
 #include <QMenuBar>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QWindow>
 
 #include <array>
 #include <stdexcept>
@@ -53,6 +54,7 @@ MDIForm1::MDIForm1(Session& session, RecoveryCopies& copies, Run run)
     build_colours();
     set_up_items(run);
     show_status_text(map::info(session_.mode).status_text);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &MDIForm1::follow_files);
 }
 
 void MDIForm1::build_menus() {

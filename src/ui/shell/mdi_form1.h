@@ -123,7 +123,6 @@ class MDIForm1 : public QMainWindow {
     void look();
 
   protected:
-    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -188,6 +187,8 @@ class MDIForm1 : public QMainWindow {
     bool keep_unsaved();
     void open_copy(const std::string& path);
     void table_changed();
+    /// Shows what changed in the files while another program was used.
+    void follow_files();
     std::vector<Problem> problems() const;
 
     /// Returns the map window, made anew when it was closed; none without maps.

@@ -13,6 +13,7 @@
 #include "shell/notice.h"
 #include "shell/recovery_copies.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
 
@@ -151,9 +152,11 @@ void MDIForm1::table_changed() {
         map_->clear_graphique();
 }
 
-void MDIForm1::changeEvent(QEvent* event) {
-    QMainWindow::changeEvent(event);
-    if (event->type() != QEvent::ActivationChange || !isActiveWindow())
+void MDIForm1::follow_files() {
+    const QWidget* active = QApplication::activeWindow();
+    const bool is_beside =
+        active != nullptr && active->parentWidget() == this && !active->isModal();
+    if (active != this && !is_beside)
         return;
     if (map_)
         map_->follow_files();

@@ -154,6 +154,15 @@ TEST_F(MapCommands, AMapThatWasChangedMeanwhileIsShownOnActivation) {
     EXPECT_EQ(control<QWidget>("Picture1").width(), 2 * width);
     come_back();
     EXPECT_EQ(control<QWidget>("Picture1").width(), 2 * width + 2);
+
+    choose("recherche", "trouver"); // one comes back to a dialog as well
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    folder.write("relief.bmp", plain(slate, width));
+    auto& search = control<QDialog>("Form_recherche");
+    search.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&search));
+    EXPECT_EQ(control<QWidget>("Picture1").width(), 2 * width);
 }
 
 TEST_F(MapCommands, AClosedMapWindowIsMadeAnew) {
