@@ -39,6 +39,19 @@ void TypedChoice::keyPressEvent(QKeyEvent* event) {
         QComboBox::keyPressEvent(event);
 }
 
+void TypedChoice::focusInEvent(QFocusEvent* event) {
+    QComboBox::focusInEvent(event);
+    installEventFilter(this); // to be asked before the completer, which was installed just now
+}
+
+bool TypedChoice::eventFilter(QObject* watched, QEvent* event) {
+    // While its list is shown, the completer would keep it from us that the field is left.
+    if (watched == this && event->type() == QEvent::FocusOut &&
+        static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
+        completer()->popup()->hide();
+    return QComboBox::eventFilter(watched, event);
+}
+
 void TypedChoice::focusOutEvent(QFocusEvent* event) {
     QComboBox::focusOutEvent(event);
     if (event->reason() != Qt::PopupFocusReason)
