@@ -2,6 +2,7 @@
 
 #include "data/province_table.h"
 
+#include <algorithm>
 #include <array>
 
 namespace map {
@@ -38,11 +39,23 @@ SelectionDots::SelectionDots(int width, int height, const editor::Selection& sel
             }
             dots_.push_back(selected);
         }
+        widen_dotted_part(row);
     }
     for (const int province : selection.provinces()) {
         if (!is_met.at(static_cast<std::size_t>(province)))
             missed_.push_back(province);
     }
+}
+
+/// Takes in the dots of the grid's last row so far.
+void SelectionDots::widen_dotted_part(int row) {
+    const auto begin = dots_.end() - columns_;
+    const auto first = std::find(begin, dots_.end(), 1);
+    if (first == dots_.end())
+        return;
+    const auto end = std::find(dots_.rbegin(), dots_.rend(), 1).base();
+    const Box part{static_cast<int>(first - begin), row, static_cast<int>(end - begin) - 1, row};
+    dotted_part_ = dotted_part_ ? united(*dotted_part_, part) : part;
 }
 
 void SelectionDots::add_missed(const ProvinceIndex& index) {

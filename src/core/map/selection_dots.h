@@ -2,6 +2,7 @@
 
 #include "editor/selection.h"
 #include "map/bitmap_file.h"
+#include "map/box.h"
 #include "map/identification.h"
 #include "map/province_index.h"
 
@@ -49,6 +50,10 @@ class SelectionDots {
     /// Returns whether the point has a dot; it must be inside the grid.
     bool has_dot(int column, int row) const;
 
+    /// Returns the smallest part of the grid (columns and rows) that holds all points with a dot;
+    /// nothing when there is none.
+    const std::optional<Box>& dotted_part() const { return dotted_part_; }
+
     /// Gives each selected province that no point of the grid meets a dot at its inner pixel.
     void add_missed(const ProvinceIndex& index);
 
@@ -59,9 +64,12 @@ class SelectionDots {
     const std::optional<ForeignPoint>& foreign_point() const { return foreign_point_; }
 
   private:
+    void widen_dotted_part(int row);
+
     int columns_ = 0;
     int rows_ = 0;
     std::vector<char> dots_;
+    std::optional<Box> dotted_part_;
     std::vector<int> missed_; // selected provinces
     std::vector<Point> single_dots_;
     std::optional<ForeignPoint> foreign_point_;

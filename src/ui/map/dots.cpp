@@ -70,6 +70,23 @@ QRect dots_around(const QRect& exposed, int points, ZoomLevel level) {
             QPoint(around.right() / spacing, around.bottom() / spacing)};
 }
 
+/// Draws the dots of the part of the grid that has any: a large view has many more points.
+void draw_dots_of_grid(QPainter& painter, const SelectionDots& dots, const Box& part,
+                       const QRect& exposed, ZoomLevel level) {
+    const QRect grid(QPoint(part.left, part.top), QPoint(part.right, part.bottom));
+    const int points = points_of_a_dot(level);
+    const QRect shown = dots_around(exposed, points, level) &
+                        QRect(QPoint(part.left / points, part.top / points),
+                              QPoint(part.right / points, part.bottom / points));
+    for (int row = shown.top(); row <= shown.bottom(); ++row) {
+        for (int column = shown.left(); column <= shown.right(); ++column) {
+            const QRect shared(column * points, row * points, points, points);
+            if (const auto point = first_dot(dots, shared & grid))
+                draw_dot(painter, *point, level);
+        }
+    }
+}
+
 } // namespace
 
 QRect dot_rect(QPoint point, ZoomLevel level) {
@@ -83,16 +100,8 @@ void draw_dot(QPainter& painter, QPoint point, ZoomLevel level) {
 
 void draw_dots(QPainter& painter, const SelectionDots& dots, const QRect& exposed,
                ZoomLevel level) {
-    const int points = points_of_a_dot(level);
-    const QRect grid(0, 0, dots.columns(), dots.rows());
-    const QRect shown = dots_around(exposed, points, level);
-    for (int row = shown.top(); row <= shown.bottom(); ++row) {
-        for (int column = shown.left(); column <= shown.right(); ++column) {
-            const QRect shared(column * points, row * points, points, points);
-            if (const auto point = first_dot(dots, shared & grid))
-                draw_dot(painter, *point, level);
-        }
-    }
+    if (const auto& part = dots.dotted_part())
+        draw_dots_of_grid(painter, dots, *part, exposed, level);
     for (const Point& single : dots.single_dots()) {
         const QPoint point(single.x, single.y);
         if (dot_rect(point, level).intersects(exposed))
