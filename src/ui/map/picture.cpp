@@ -34,12 +34,15 @@ void Picture::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     const auto open = [this] { return open_strips_(image_); };
     const auto first = open();
+    const auto draw = [&painter](const QRect& shown, const QImage& image) {
+        painter.drawImage(shown.topLeft(), image, QRect({0, 0}, shown.size()));
+    };
     std::optional<data::Place> reason;
     for (const QRect& exposed : event->region()) {
-        auto part = read_strips(exposed, level_, QThread::idealThreadCount(), *first, open);
-        painter.drawImage(exposed.topLeft(), part.image);
+        auto problem =
+            read_strips(exposed, level_, QThread::idealThreadCount(), *first, open, draw);
         if (!reason)
-            reason = std::move(part.problem);
+            reason = std::move(problem);
     }
     draw_above_(painter, event->region());
     if (reason)

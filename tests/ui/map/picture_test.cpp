@@ -80,14 +80,20 @@ struct FaultyBelow : map::StripReader {
 TEST(Strips, AreReadBySeveralThreadsWithoutAGap) {
     for (int at_once = 1; at_once <= 5; ++at_once) {
         FaultyBelow first;
-        const auto part = map::read_strips({0, 10, 3, 300}, {}, at_once, first,
-                                           [] { return std::make_unique<FaultyBelow>(); });
-        for (int y = 0; y < 300; ++y) {
-            const int row = static_cast<int>(part.image.pixel(2, y) & 0xFFFFFF);
-            ASSERT_TRUE(row <= y + 10 && row > y + 10 - 32) << y << ' ' << at_once;
-        }
-        ASSERT_TRUE(part.problem);
-        EXPECT_LE(std::stoi(part.problem->in_english()), 151) << "the uppermost strip's";
+        int drawn = 10;
+        const auto problem = map::read_strips(
+            {0, 10, 3, 300}, {}, at_once, first, [] { return std::make_unique<FaultyBelow>(); },
+            [&](const QRect& shown, const QImage& image) {
+                ASSERT_EQ(shown, QRect(0, drawn, 3, shown.height()));
+                for (; drawn <= shown.bottom(); ++drawn) {
+                    const int row =
+                        static_cast<int>(image.pixel(2, drawn - shown.top()) & 0xFFFFFF);
+                    ASSERT_TRUE(row <= drawn && row > drawn - 32) << drawn << ' ' << at_once;
+                }
+            });
+        EXPECT_EQ(drawn, 310);
+        ASSERT_TRUE(problem);
+        EXPECT_LE(std::stoi(problem->in_english()), 151) << "the uppermost strip's";
     }
 }
 
