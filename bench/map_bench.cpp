@@ -80,7 +80,7 @@ std::unique_ptr<map::Form1> shown_window(shell::Session& session) {
 /// Returns a window that has nothing more to do in the idle time.
 std::unique_ptr<map::Form1> ready_window(shell::Session& session) {
     auto window = shown_window(session);
-    window->index();
+    window->places().index();
     return window;
 }
 

@@ -91,6 +91,17 @@ class MainFrame : public testing::Test {
         frame->activateWindow();
         EXPECT_TRUE(QTest::qWaitFor(is_active));
     }
+    /// Colours the map by a field through its menu item.
+    void colour_by(const std::string& item) const {
+        come_back();
+        QTest::mouseClick(frame->menuBar(), Qt::LeftButton, {},
+                          frame->menuBar()->actionGeometry(&action("carte")).center());
+        QTest::keyClick(action("carte").menu(), Qt::Key_B); // "Colour &by"
+        auto* menu = action("colorer").menu();
+        ASSERT_TRUE(menu->isVisible());
+        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(&action(item)).center());
+        QCoreApplication::processEvents();
+    }
     void open_tab(int tab) const {
         auto& strip = control<QTabBar>("TabStrip1");
         QTest::mouseClick(&strip, Qt::LeftButton, {}, strip.tabRect(tab).center());

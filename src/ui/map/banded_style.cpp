@@ -4,18 +4,22 @@
 #include <QPixmap>
 #include <QStyleOption>
 
+#include <algorithm>
+
 namespace map {
 
 namespace {
 
 // Qt hands what it draws in 96 pieces or more out to threads, one line at a time: for a bar as long
-// as a window, waking them takes longer than painting the map beside it. A piece is a row of an
-// edge, at a scale of one a pixel of it; an outline has two edges, and ends.
+// as a window, waking them takes longer than painting the map beside it. Every row of a line is a
+// piece, at a scale of one every pixel: the two long edges of an outline of 40 pixels are 80, and
+// the rest is for its ends.
 constexpr int most_pixels = 40; // of the screen
 
 /// Returns the size of the parts of a bar that are drawn alone.
 QSize size_of_band(QSize bar, qreal scale) {
-    const int length = static_cast<int>(most_pixels / scale) & ~3; // whole pixels of the screen
+    const int whole_pixels = static_cast<int>(most_pixels / scale) & ~3; // whole ones of the screen
+    const int length = std::max(whole_pixels, 4);
     return bar.boundedTo({scale == 1 ? length : bar.width(), length});
 }
 

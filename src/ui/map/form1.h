@@ -62,9 +62,6 @@ class Form1 : public QWidget {
     /// Returns where the provinces lie on the ID map.
     ProvincePlaces& places() { return places_; }
 
-    /// Returns the index of the places, after reading what it lacks.
-    const ProvinceIndex& index() { return places_.index(); }
-
     /// Moves the view to the selection when no pixel of it is in view.
     void follow_selection();
 
@@ -104,6 +101,8 @@ class Form1 : public QWidget {
     void enter_position(const QMouseEvent& event, int province);
     std::optional<IdMapPoint> id_map_point(const QPointF& position);
     QRect shown_graphics(int province) const;
+    /// Returns the index of the places, after reading what it lacks.
+    const ProvinceIndex& index() { return places_.index(); }
     bool follow_file(MapImage& image);
     void work_out_dots();
     void show_foreign_point(const ForeignPoint& point);

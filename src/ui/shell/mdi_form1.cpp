@@ -54,7 +54,10 @@ MDIForm1::MDIForm1(Session& session, RecoveryCopies& copies, Run run)
     build_colours();
     set_up_items(run);
     show_status_text(map::info(session_.mode).status_text);
-    connect(qApp, &QGuiApplication::focusWindowChanged, this, &MDIForm1::follow_files);
+    // Queued: in the middle of a change of the focus no exception may pass, and a frame that is
+    // being destroyed has nothing to look after.
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &MDIForm1::follow_files,
+            Qt::QueuedConnection);
 }
 
 void MDIForm1::build_menus() {

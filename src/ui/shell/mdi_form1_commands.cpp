@@ -79,16 +79,16 @@ void MDIForm1::quitter() {
 void MDIForm1::enter_mode(map::Mode mode) {
     session_.mode = mode;
     check_mode();
-    if (mode != map::Mode::normal)
+    auto* map = map_window();
+    if (mode != map::Mode::normal) {
         panel_->forget_shown(); // to be hidden with the focus is not to be left
-    enable_place_items();
-    const bool panel_had_focus = panel_->isAncestorOf(focusWidget());
-    panel_->setVisible(mode == map::Mode::normal);
-    if (auto* map = map_window()) {
-        if (panel_had_focus && mode != map::Mode::normal)
+        if (map)
             map->view().take_focus(); // not the legend: one places now
-        map->selection_or_mode_changed();
     }
+    enable_place_items();
+    panel_->setVisible(mode == map::Mode::normal);
+    if (map)
+        map->selection_or_mode_changed();
     if (mode == map::Mode::normal) {
         panel_->show_selection(); // clicks in the mode that ends may have moved what it shows
         options();

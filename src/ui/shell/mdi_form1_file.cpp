@@ -154,9 +154,9 @@ void MDIForm1::table_changed() {
 
 void MDIForm1::follow_files() {
     const QWidget* active = QApplication::activeWindow();
-    const bool is_beside =
-        active != nullptr && active->parentWidget() == this && !active->isModal();
-    if (active != this && !is_beside)
+    const bool is_beside = active != nullptr && active->parentWidget() == this &&
+                           active->windowType() == Qt::Dialog && !active->isModal();
+    if ((active != this && !is_beside) || QApplication::activePopupWidget() != nullptr)
         return;
     if (map_)
         map_->follow_files();

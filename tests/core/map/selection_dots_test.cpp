@@ -42,6 +42,11 @@ TEST(SelectionDots, LieInSelectedProvinces) {
     EXPECT_EQ(dots.foreign_point()->y, 40);
     EXPECT_EQ(dots.foreign_point()->identifier, 2019);
     EXPECT_EQ(dots.foreign_point()->colour, bitmaps::colour_of(2019));
+
+    EXPECT_EQ(dots.dotted_part(), (map::Box{0, 0, 3, 2}));
+    const std::vector<std::string> corner = {"AAA", "AAB"};
+    EXPECT_EQ(dots_of(corner, "2", 60, 40).dotted_part(), (map::Box{2, 1, 2, 1}));
+    EXPECT_EQ(dots_of(corner, "3", 60, 40).dotted_part(), std::nullopt);
 }
 
 TEST(SelectionDots, GridCoversTheMap) {

@@ -107,11 +107,11 @@ TEST_F(FollowFiles, DotsAndClicksFollowTheIdMap) {
     session.selection.apply("12");
     form->selection_or_mode_changed();
     EXPECT_EQ(seen_in_middle(), paper);
-    EXPECT_NE(form->index().place(1), nullptr);
+    EXPECT_NE(form->places().index().place(1), nullptr);
     write("id.bmp",
           bitmaps::painted(width, height, [](int, int) { return bitmaps::colour_of(12); }));
     form->follow_files();
-    EXPECT_EQ(form->index().place(1), nullptr);
+    EXPECT_EQ(form->places().index().place(1), nullptr);
     form->view().centre_on({460, 360});
     EXPECT_EQ(seen_in_middle(), 0xFF000000);
     click(2 * QPoint(450, 350));

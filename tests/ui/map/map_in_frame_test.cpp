@@ -105,16 +105,35 @@ TEST_F(MapInFrame, DrawingsGoOffWithTheirArt) {
 }
 
 TEST_F(MapInFrame, AnUnreadableIdMapIsTheReasonWhyNothingIsFound) {
-    start();
-    frame->open_maps();
-    folder.write("id.bmp", folder.read("id.bmp").substr(0, 1000));
-    press_key(Qt::Key_K, Qt::ControlModifier);
-    auto& list = control<QTableView>("problèmes");
-    ASSERT_EQ(list.model()->rowCount(), 1);
-    EXPECT_TRUE(list.model()->index(0, 3).data().toString().startsWith("places were not checked"));
-    press_key(Qt::Key_F3);
-    press_key(Qt::Key_F9);
-    EXPECT_TRUE(control<QLabel>("notice").text().contains("id.bmp"));
+    const std::string whole = folder.read("id.bmp");
+    const auto notice = [this] { return control<QLabel>("notice").text(); };
+    load(5, 28, "450");
+    load(5, 29, "380");
+    for (const bool is_indexed : {false, true}) {
+        folder.write("id.bmp", whole);
+        start();
+        frame->open_maps();
+        if (is_indexed) {
+            press_key(Qt::Key_F3);
+            press_key(Qt::Key_F9);
+            EXPECT_TRUE(notice().contains("1")) << "the first that lacks one";
+        }
+        folder.write("id.bmp", whole.substr(0, 1000));
+        press_key(Qt::Key_K, Qt::ControlModifier);
+        auto& list = control<QTableView>("problèmes");
+        ASSERT_EQ(list.model()->rowCount(), 1);
+        EXPECT_TRUE(
+            list.model()->index(0, 3).data().toString().startsWith("places were not checked"));
+        frame->tell({});
+        if (is_indexed) {
+            colour_by("colorer(3)");
+        } else {
+            press_key(Qt::Key_F3);
+            press_key(Qt::Key_F9);
+        }
+        EXPECT_TRUE(notice().contains("id.bmp")) << is_indexed;
+        frame.reset();
+    }
 }
 
 } // namespace

@@ -29,16 +29,6 @@ class Colours : public support::MainFrame {
         load(6, religion, "orthodox");
     }
 
-    void colour_by(const std::string& item) const {
-        come_back();
-        QTest::mouseClick(frame->menuBar(), Qt::LeftButton, {},
-                          frame->menuBar()->actionGeometry(&action("carte")).center());
-        QTest::keyClick(action("carte").menu(), Qt::Key_B); // "Colour &by"
-        auto* menu = action("colorer").menu();
-        ASSERT_TRUE(menu->isVisible());
-        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(&action(item)).center());
-        QCoreApplication::processEvents();
-    }
     QRgb seen(int x) const {
         auto& surface = control<QWidget>("Picture1");
         return frame->grab().toImage().pixel(surface.mapTo(frame.get(), QPoint(x, 50)));

@@ -153,6 +153,7 @@ TEST_F(MapCommands, AMapThatWasChangedMeanwhileIsShownOnActivation) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
     EXPECT_EQ(control<QWidget>("Picture1").width(), 2 * width);
     come_back();
+    QCoreApplication::processEvents();
     EXPECT_EQ(control<QWidget>("Picture1").width(), 2 * width + 2);
 
     choose("recherche", "trouver"); // one comes back to a dialog as well
@@ -162,6 +163,7 @@ TEST_F(MapCommands, AMapThatWasChangedMeanwhileIsShownOnActivation) {
     auto& search = control<QDialog>("Form_recherche");
     search.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&search));
+    QCoreApplication::processEvents();
     EXPECT_EQ(control<QWidget>("Picture1").width(), 2 * width);
 }
 
@@ -248,15 +250,19 @@ TEST_F(MapCommands, AModeThatHidesThePanelLeavesNoField) {
     load(5, 1, "a");
     load(6, 1, "b");
     select("5;6");
-    action("colorer(3)").trigger(); // its legend is not to take the focus
+    colour_by("colorer(3)");
     click("nom_province");
     press_key(Qt::Key_F3);
-    EXPECT_EQ(QApplication::focusWidget(), &control<QWidget>("Picture1"));
+    EXPECT_EQ(QApplication::focusWidget(), &control<QWidget>("Picture1")) << "not the legend";
     EXPECT_EQ(cell(5, 1) + cell(6, 1), "ab");
     press_key(Qt::Key_F2);
     type("nom_province", "c");
     press_key(Qt::Key_F4);
     EXPECT_EQ(cell(5, 1) + cell(6, 1), "cc") << "what was typed is written before";
+    press_key(Qt::Key_F2);
+    control<QWidget>("légende_liste").setFocus();
+    press_key(Qt::Key_F5);
+    EXPECT_EQ(QApplication::focusWidget(), &control<QWidget>("Picture1"));
 }
 
 } // namespace
