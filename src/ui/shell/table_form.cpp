@@ -2,6 +2,7 @@
 
 #include "base/captions.h"
 #include "base/qt_text.h"
+#include "data/province_table.h"
 #include "shell/table_model.h"
 
 #include <QHBoxLayout>
@@ -63,6 +64,8 @@ TableForm::TableForm(const Kind& kind, const Session& session, QWidget* owner)
     list_->verticalHeader()->hide();
     list_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + row_margin);
     list_->horizontalHeader()->setStretchLastSection(true);
+    // Long names may be those of the last provinces, which Qt would not look at.
+    list_->horizontalHeader()->setResizeContentsPrecision(data::last_province);
     count_->setObjectName(QStringLiteral("count"));
 
     auto* close_button = new QPushButton(text(session, Text::button_close), this);

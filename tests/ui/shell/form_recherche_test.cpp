@@ -62,8 +62,12 @@ TEST_F(Search, FindsWhileOneTypesAndMakesSelections) {
     load(5, 1, "Northmoor");
     load(700, 1, "Southmoor");
     load(1500, 52, "Moorgate");
+    const QString longest = "A name that is longer than those of other provinces";
+    load(2018, 1, longest.toStdString());
     find();
     EXPECT_EQ(listed(), "2018");
+    const auto& names = in_form<QTableView>("résultats");
+    EXPECT_GE(names.columnWidth(1), names.fontMetrics().horizontalAdvance(longest));
     write("MOOR");
     EXPECT_EQ(listed(), "5 Northmoor , 700 Southmoor , 1500  Moorgate, ");
     EXPECT_EQ(shown_count(), "3 provinces");
