@@ -114,7 +114,8 @@ void Form1::follow_files() {
     follow(map_1_);
     if (map_2_)
         follow(*map_2_);
-    if (follow_file(id_map_)) {
+    // What could not be read may be there again, in a file that is as it was.
+    if (follow_file(id_map_) || places_.problem()) {
         changed = true;
         forget_places();
     }

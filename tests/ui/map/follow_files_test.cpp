@@ -102,6 +102,19 @@ TEST_F(FollowFiles, AnotherSizeIsTaken) {
     EXPECT_TRUE(problems.join('|').contains(QStringLiteral("File not found")));
 }
 
+TEST_F(FollowFiles, AnIdMapThatComesBackUnchangedIsReadAgain) {
+    open_on(plain_map());
+    const QString file = folder.native("id.bmp");
+    write("id.bmp", id_map());
+    form->follow_files(); // the places are read anew
+    ASSERT_TRUE(QFile::rename(file, file + "x"));
+    EXPECT_EQ(form->places().index().place(1), nullptr);
+    ASSERT_TRUE(QFile::rename(file + "x", file));
+    form->follow_files();
+    EXPECT_NE(form->places().index().place(1), nullptr);
+    EXPECT_FALSE(form->places().problem());
+}
+
 TEST_F(FollowFiles, DotsAndClicksFollowTheIdMap) {
     open_on(plain_map());
     session.selection.apply("12");
