@@ -6,10 +6,10 @@
 namespace shell {
 
 std::string text_of(const Problem& problem, const LanguageTexts& language) {
-    const std::string what = language.text(problem.what, {problem.value, problem.detail});
-    if (!problem.is_hint)
-        return what;
-    return language.text(Text::place_reason, {language.text(Text::controle_hint), what});
+    std::string what = language.text(problem.what, {problem.value, problem.detail});
+    if (problem.is_hint)
+        what = language.text(Text::place_reason, {language.text(Text::controle_hint), what});
+    return what;
 }
 
 std::string shown_column(data::FileColumn column) {
