@@ -4,8 +4,8 @@
 
 namespace map {
 
-/// Draws a scroll bar as the program's style does, at little cost however long it is, so
-/// that scrolling a map stays light.
+/// Draws a scroll bar as the program's style does, at little cost however long it is, so that
+/// scrolling a map stays light.
 class BandedStyle : public QProxyStyle {
     Q_OBJECT
 
