@@ -260,6 +260,10 @@ TEST_F(MapCommands, AModeThatHidesThePanelLeavesNoField) {
     press_key(Qt::Key_F4);
     EXPECT_EQ(cell(5, 1) + cell(6, 1), "cc") << "what was typed is written before";
     press_key(Qt::Key_F2);
+    type("férocité", "9");
+    press_key(Qt::Key_F4);
+    EXPECT_EQ(boxes.take().size(), 1U) << "refused once";
+    press_key(Qt::Key_F2);
     control<QWidget>("légende_liste").setFocus();
     press_key(Qt::Key_F5);
     EXPECT_EQ(QApplication::focusWidget(), &control<QWidget>("Picture1"));
