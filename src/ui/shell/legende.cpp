@@ -66,8 +66,9 @@ void Legende::show_classes(const editor::Field& field, const QString& name,
     const auto before = std::exchange(classes_, {classes.begin(), classes.end()});
     const int current = list_->indexOfTopLevelItem(list_->currentItem());
     const int swatch_size = fontMetrics().ascent();
+    int row = 0;
     for (const auto& colour_class : classes_) {
-        auto* item = list_->topLevelItem(static_cast<int>(&colour_class - classes_.data()));
+        auto* item = list_->topLevelItem(row++);
         if (item == nullptr)
             item = new QTreeWidgetItem(list_);
         item->setText(text_column, base::caption_text(text_of(field, colour_class)));
@@ -75,7 +76,7 @@ void Legende::show_classes(const editor::Field& field, const QString& name,
         item->setIcon(text_column, swatch(colour_class.colour, swatch_size));
         item->setTextAlignment(count_column, Qt::AlignRight | Qt::AlignVCenter);
     }
-    while (list_->topLevelItemCount() > static_cast<int>(classes_.size()))
+    while (list_->topLevelItemCount() > row)
         delete list_->takeTopLevelItem(list_->topLevelItemCount() - 1);
     if (current >= 0)
         make_current(before[static_cast<std::size_t>(current)]);

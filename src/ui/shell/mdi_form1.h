@@ -117,7 +117,6 @@ class MDIForm1 : public QMainWindow {
 
     /// Shows what happened in the status bar for a while.
     void tell(const QString& notice);
-    void tell_none_found(map::Form1& map, Text text);
 
     /// Looks after every event whether the state and the colours still hold.
     void look();
@@ -200,6 +199,8 @@ class MDIForm1 : public QMainWindow {
     void zoom_by(int steps);
     QString name_of(int province) const;
     void show_pointed(int province, const QPointF& position);
+    /// Tells the text, or why the ID map could not be read where that is the reason.
+    void tell_none_found(map::Form1& map, Text text);
 
     Session& session_;
     RecoveryCopies& copies_;

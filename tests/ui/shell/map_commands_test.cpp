@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QTreeWidget>
 
 /// The maps, the modes and the map window, commanded through the main frame's menus and keys.
 namespace {
@@ -264,7 +265,9 @@ TEST_F(MapCommands, AModeThatHidesThePanelLeavesNoField) {
     press_key(Qt::Key_F4);
     EXPECT_EQ(boxes.take().size(), 1U) << "refused once";
     press_key(Qt::Key_F2);
-    control<QWidget>("légende_liste").setFocus();
+    auto* legend = control<QTreeWidget>("légende_liste").viewport();
+    QTest::mouseClick(legend, Qt::LeftButton, {}, {10, 5});
+    EXPECT_EQ(control<QLineEdit>("selection_text").text(), "1-2018");
     press_key(Qt::Key_F5);
     EXPECT_EQ(QApplication::focusWidget(), &control<QWidget>("Picture1"));
 }
